@@ -1,0 +1,36 @@
+#include "base/table_model.h"
+
+namespace base {
+namespace {
+const std::string kEmpty;
+}
+
+const std::string& TableModel::Cell(std::size_t row, std::size_t column) const {
+    if (row >= m_rows.size()) return kEmpty;
+    const auto& cells = m_rows[row].cells;
+    return column < cells.size() ? cells[column] : kEmpty;
+}
+
+int TableModel::Icon(std::size_t row) const { return row < m_rows.size() ? m_rows[row].icon : -1; }
+
+void TableModel::AddRow(std::vector<std::string> cells, int icon) {
+    m_rows.push_back(Row{std::move(cells), icon});
+    Changed();
+}
+
+void TableModel::Clear() {
+    m_rows.clear();
+    Changed();
+}
+
+void TableModel::SetIcon(std::size_t row, int icon) {
+    if (row >= m_rows.size()) return;
+    m_rows[row].icon = icon;
+    Changed();
+}
+
+void TableModel::Changed() const {
+    if (m_listener) m_listener();
+}
+
+}  // namespace base

@@ -1,0 +1,39 @@
+#pragma once
+// The rows behind one list view: cell texts and an icon index per row. Logic appends,
+// clears and rebuilds it; the view reads cells on demand, so row count costs nothing to show.
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace base {
+
+class TableModel {
+public:
+    struct Row {
+        std::vector<std::string> cells;
+        int icon = -1;
+    };
+    using ChangeListener = std::function<void()>;
+
+    std::size_t RowCount() const { return m_rows.size(); }
+    // The text of a cell; empty for a cell the row does not have.
+    const std::string& Cell(std::size_t row, std::size_t column) const;
+    int Icon(std::size_t row) const;
+    const Row& RowAt(std::size_t row) const { return m_rows.at(row); }
+
+    void AddRow(std::vector<std::string> cells, int icon = -1);
+    void Clear();
+    void SetIcon(std::size_t row, int icon);
+
+    // Called after every change; the view uses it to renew its item count.
+    void SetChangeListener(ChangeListener listener) { m_listener = std::move(listener); }
+
+private:
+    void Changed() const;
+
+    std::vector<Row> m_rows;
+    ChangeListener m_listener;
+};
+
+}  // namespace base
