@@ -1,0 +1,22 @@
+#pragma once
+#include "base/win32/unique_resource.h"
+#include "platform/instance.h"
+
+namespace platform::win32 {
+
+class Instance : public IInstance {
+public:
+    std::string ExecutableFolder() override;
+    std::string ExecutableName() override;
+    std::string VersionComments() override;
+    bool IsAnotherCopyRunning() override;
+    bool ActivateWindowTitled(const std::string& title) override;
+    bool Start(const std::string& path) override;
+
+private:
+    std::wstring ExecutablePath();
+    // Held for the life of the process: its existence tells later copies that this one runs.
+    base::UniqueHandle m_mutex;
+};
+
+}  // namespace platform::win32
