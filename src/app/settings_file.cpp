@@ -60,7 +60,7 @@ void SettingsFile::Read(Settings& settings) {
     }
     const std::string section = m_profile.ReadSection(m_path, kSection);
     if (section.empty()) {
-        m_dialogs.MessageBox("読み込みエラー", base::kProductName, platform::msgbox::kExclamation);
+        m_dialogs.ShowMessage("読み込みエラー", base::kProductName, platform::msgbox::kExclamation);
         return;
     }
     std::vector<std::string> entries;
@@ -78,7 +78,7 @@ void SettingsFile::Write(const Settings& settings) {
         block += '\0';
     }
     if (!m_profile.WriteSection(m_path, kSection, block)) {
-        m_dialogs.MessageBox("INIファイル書き込みエラー", base::kProductName, platform::msgbox::kExclamation);
+        m_dialogs.ShowMessage("INIファイル書き込みエラー", base::kProductName, platform::msgbox::kExclamation);
     }
 }
 

@@ -32,7 +32,7 @@ class IDialogs {
 public:
     virtual ~IDialogs() = default;
     // Returns one of the msgbox answers.
-    virtual int MessageBox(const std::string& text, const std::string& title, unsigned style) = 0;
+    virtual int ShowMessage(const std::string& text, const std::string& title, unsigned style) = 0;
     // The chosen path, or nothing when the user cancelled.
     virtual std::optional<std::string> SaveFile(const SaveFileRequest& request) = 0;
     // The colour dialog with its custom-colour part open, starting from black.

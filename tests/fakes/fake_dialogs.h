@@ -16,7 +16,7 @@ struct AskedMessage {
 
 class FakeDialogs : public platform::IDialogs {
 public:
-    int MessageBox(const std::string& text, const std::string& title, unsigned style) override {
+    int ShowMessage(const std::string& text, const std::string& title, unsigned style) override {
         messages.push_back({text, title, style});
         if (answers.empty()) return platform::msgbox::kOk;
         const int answer = answers.front();

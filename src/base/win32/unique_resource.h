@@ -35,10 +35,11 @@ private:
     Type m_value = Traits::Invalid();
 };
 
-template <typename T, auto CloseFunction, auto InvalidValue = nullptr>
+// Handles whose invalid value is null.
+template <typename T, auto CloseFunction>
 struct SimpleTraits {
     using Type = T;
-    static Type Invalid() noexcept { return reinterpret_cast<Type>(InvalidValue); }
+    static Type Invalid() noexcept { return Type{}; }
     static void Close(Type value) noexcept { CloseFunction(value); }
 };
 

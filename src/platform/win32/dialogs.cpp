@@ -23,7 +23,7 @@ std::wstring FilterList(const std::string& filter) {
 
 HWND Dialogs::Owner() { return GetActiveWindow(); }
 
-int Dialogs::MessageBox(const std::string& text, const std::string& title, unsigned style) {
+int Dialogs::ShowMessage(const std::string& text, const std::string& title, unsigned style) {
     return MessageBoxW(Owner(), base::Widen(text).c_str(), base::Widen(title).c_str(), style);
 }
 

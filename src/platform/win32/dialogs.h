@@ -7,7 +7,7 @@ namespace platform::win32 {
 
 class Dialogs : public IDialogs {
 public:
-    int MessageBox(const std::string& text, const std::string& title, unsigned style) override;
+    int ShowMessage(const std::string& text, const std::string& title, unsigned style) override;
     std::optional<std::string> SaveFile(const SaveFileRequest& request) override;
     std::optional<base::Colour> ChooseColour() override;
 
