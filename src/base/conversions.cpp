@@ -52,6 +52,13 @@ std::int16_t ToInt16(double value) { return ToWhole<std::int16_t>(value); }
 std::uint8_t ToByte(double value) { return ToWhole<std::uint8_t>(value); }
 std::int32_t ToInt32(double value) { return ToWhole<std::int32_t>(value); }
 
+float ToSingle(double value) {
+    if (std::isfinite(value) && std::fabs(value) > std::numeric_limits<float>::max()) {
+        throw RuntimeError(RuntimeErrorNumber::Overflow);
+    }
+    return static_cast<float>(value);
+}
+
 std::optional<double> ParseNumber(std::string_view text) {
     text = TrimBlanks(text);
     bool negative = false;

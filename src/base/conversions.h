@@ -14,6 +14,8 @@ double RoundHalfEven(double value);
 std::int16_t ToInt16(double value);
 std::uint8_t ToByte(double value);
 std::int32_t ToInt32(double value);
+// The nearest single-precision number; a value beyond the single range raises the overflow error.
+float ToSingle(double value);
 
 // The number a whole text stands for (blanks around it allowed, "&H" hex), or nothing.
 std::optional<double> ParseNumber(std::string_view text);
