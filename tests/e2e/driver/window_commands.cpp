@@ -1,0 +1,124 @@
+// Top-level windows and processes: waiting, listing, describing, showing, hiding, closing.
+#include <windows.h>
+#include <tlhelp32.h>
+
+#include "base/win32/unique_resource.h"
+#include "base/win32/wide.h"
+#include "driver.h"
+#include "window_finder.h"
+
+namespace driver {
+namespace {
+
+std::string Flag(bool value) { return value ? "1" : "0"; }
+
+void Wait(const Options& options) {
+    PrintLine({Hex(reinterpret_cast<std::uintptr_t>(WaitForTopLevelWindow(options)))});
+}
+
+void WaitGone(const Options& options) {
+    const bool gone = WaitUntil(options.timeout, [&] {
+        for (HWND window : MatchingTopLevelWindows(options))
+            if (!options.mustBeVisible || IsWindowVisible(window)) return false;
+        return true;
+    });
+    if (!gone) throw Failure("the window is still there after " + std::to_string(options.timeout.count()) + " ms");
+}
+
+void ListWindows(const Options& options) {
+    for (HWND window : MatchingTopLevelWindows(options)) {
+        if (options.mustBeVisible && !IsWindowVisible(window)) continue;
+        const DWORD processId = ProcessId(window);
+        PrintLine({Hex(reinterpret_cast<std::uintptr_t>(window)), Flag(IsWindowVisible(window)),
+                   ProcessName(processId), std::to_string(processId), ClassName(window), WindowText(window)});
+    }
+}
+
+void Describe(const Options& options) {
+    HWND window = WaitForTopLevelWindow(options);
+    RECT rect{};
+    GetWindowRect(window, &rect);
+    const auto exStyle = static_cast<DWORD>(GetWindowLongPtrW(window, GWL_EXSTYLE));
+    const DWORD processId = ProcessId(window);
+    PrintLine({"handle", Hex(reinterpret_cast<std::uintptr_t>(window))});
+    PrintLine({"title", WindowText(window)});
+    PrintLine({"class", ClassName(window)});
+    PrintLine({"process", ProcessName(processId), std::to_string(processId)});
+    PrintLine({"visible", Flag(IsWindowVisible(window))});
+    PrintLine({"minimized", Flag(IsIconic(window))});
+    PrintLine({"foreground", Flag(GetForegroundWindow() == window)});
+    PrintLine({"rect", std::to_string(rect.left), std::to_string(rect.top), std::to_string(rect.right),
+               std::to_string(rect.bottom)});
+    PrintLine({"exstyle", Hex(exStyle)});
+    PrintLine({"topmost", Flag(exStyle & WS_EX_TOPMOST)});
+}
+
+void Children(const Options& options) {
+    for (HWND child : Descendants(WaitForTopLevelWindow(options))) {
+        PrintLine({Hex(reinterpret_cast<std::uintptr_t>(child)), std::to_string(GetDlgCtrlID(child)),
+                   ClassName(child), Flag(IsWindowVisible(child)), WindowText(child)});
+    }
+}
+
+void SetVisibility(const Options& options, bool visible) {
+    HWND window = WaitForTopLevelWindow(options);
+    // Async: the target's own thread shows or hides it, and the driver never blocks on a busy target.
+    ShowWindowAsync(window, visible ? SW_SHOW : SW_HIDE);
+    if (!WaitUntil(options.timeout, [&] { return (IsWindowVisible(window) != FALSE) == visible; }))
+        throw Failure(std::string("the window did not become ") + (visible ? "visible" : "hidden"));
+}
+
+void Close(const Options& options) {
+    if (!PostMessageW(WaitForTopLevelWindow(options), WM_CLOSE, 0, 0)) throw Failure("cannot post WM_CLOSE");
+}
+
+std::vector<std::pair<DWORD, std::string>> Processes(const Options& options) {
+    base::UniqueFileHandle snapshot(CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0));
+    if (!snapshot) throw Failure("cannot list processes");
+    std::vector<std::pair<DWORD, std::string>> found;
+    PROCESSENTRY32W entry{};
+    entry.dwSize = sizeof entry;
+    for (BOOL more = Process32FirstW(snapshot.Get(), &entry); more; more = Process32NextW(snapshot.Get(), &entry)) {
+        const std::string name = base::Narrow(entry.szExeFile);
+        if (options.process && CompareStringOrdinal(entry.szExeFile, -1, base::Widen(*options.process).c_str(), -1,
+                                                    TRUE) != CSTR_EQUAL)
+            continue;
+        found.emplace_back(entry.th32ProcessID, name);
+    }
+    return found;
+}
+
+void ListProcesses(const Options& options) {
+    for (const auto& [id, name] : Processes(options)) PrintLine({std::to_string(id), name});
+}
+
+void WaitExit(const Options& options) {
+    if (!options.process) throw std::invalid_argument("wait-exit needs --process");
+    if (!WaitUntil(options.timeout, [&] { return Processes(options).empty(); }))
+        throw Failure(*options.process + " is still running after " + std::to_string(options.timeout.count()) +
+                      " ms");
+}
+
+}  // namespace
+
+const std::vector<Command>& WindowCommands() {
+    static const std::vector<Command> commands = {
+        {"wait", "wait                    wait for the window; prints its handle", Wait},
+        {"wait-gone", "wait-gone               wait until no such window (with --visible: none visible) exists",
+         WaitGone},
+        {"windows", "windows                 top-level windows: handle, visible, process, pid, class, title",
+         ListWindows},
+        {"window", "window                  title, class, process, visibility, rect, exstyle, topmost", Describe},
+        {"children", "children                child windows: handle, id, class, visible, text", Children},
+        {"show", "show                    show the window and wait until it is visible",
+         [](const Options& o) { SetVisibility(o, true); }},
+        {"hide", "hide                    hide the window and wait until it is hidden",
+         [](const Options& o) { SetVisibility(o, false); }},
+        {"close", "close                   post WM_CLOSE to the window", Close},
+        {"processes", "processes               running processes (of --process): pid, image name", ListProcesses},
+        {"wait-exit", "wait-exit               wait until no process named --process runs", WaitExit},
+    };
+    return commands;
+}
+
+}  // namespace driver

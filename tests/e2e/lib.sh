@@ -1,0 +1,212 @@
+# The end-to-end harness, sourced by every scenario in scenarios/ (see README.md).
+#
+# A scenario is started by CTest as
+#   bash scenarios/NAME.sh PROGRAM_EXE DRIVER_EXE SOURCE_DIR WORK_DIR
+# and sources this file first, which reads those four arguments. e2e_begin then gives it a private
+# headless X server with a window manager, a fresh copy of the prepared Wine prefix and a fresh
+# program folder; whatever happens afterwards (pass, failure, timeout, Ctrl-C), every Wine process,
+# the window manager and the X server are stopped when the scenario ends.
+
+set -euo pipefail
+
+[[ $# -ge 4 ]] || { echo "usage: $0 PROGRAM_EXE DRIVER_EXE SOURCE_DIR WORK_DIR" >&2; exit 2; }
+E2E_EXE=$(readlink -f "$1")
+E2E_DRIVER=$(readlink -f "$2")
+E2E_SOURCE=$(readlink -f "$3")
+E2E_WORK=$4
+E2E_NAME=$(basename "$0" .sh)
+E2E_PROGRAM_DIR=$E2E_WORK/program
+E2E_PROCESS=$(basename "$E2E_EXE")
+E2E_TIMEOUT=${E2E_TIMEOUT:-120} # seconds for the whole scenario
+
+source "$E2E_SOURCE/tests/win/wine-common.sh"
+
+# The main window's caption, from the one constant the program uses for it.
+E2E_BANNER=$(sed -n 's/.*kBanner = "\(.*\)";.*/\1/p' "$E2E_SOURCE/src/base/product.h")
+[[ -n $E2E_BANNER ]] || lookout_die "cannot read the banner from src/base/product.h"
+
+e2e_log() { printf '[%s %s] %s\n' "$E2E_NAME" "$(date +%T.%3N)" "$*" >&2; }
+
+# Ends the scenario as failed; the EXIT trap cleans up and shows the program's output.
+fail() {
+    printf '\nFAIL [%s]: %s\n' "$E2E_NAME" "$*" >&2
+    exit 1
+}
+
+# ---------------------------------------------------------------------------------------------
+# Session
+
+e2e_cleanup() {
+    local status=$?
+    trap - EXIT INT TERM
+    if [[ -n ${e2e_watchdog_pid:-} ]]; then
+        pkill -P "$e2e_watchdog_pid" 2>/dev/null
+        kill "$e2e_watchdog_pid" 2>/dev/null
+    fi
+    if [[ $status -ne 0 && -n ${DISPLAY:-} && -n ${lookout_xvfb_pid:-} ]]; then
+        import -window root "$E2E_WORK/failure.png" 2>/dev/null &&
+            echo "screenshot at failure: $E2E_WORK/failure.png" >&2
+    fi
+    lookout_wine_stop
+    lookout_stop_x
+    if [[ $status -ne 0 && -s $E2E_WORK/program.log ]]; then
+        echo "--- program output (last 40 lines of $E2E_WORK/program.log) ---" >&2
+        tail -n 40 "$E2E_WORK/program.log" >&2
+    fi
+    [[ -n ${E2E_KEEP_PREFIX:-} ]] || rm -rf "$E2E_WORK/prefix"
+    if [[ $status -eq 0 ]]; then
+        e2e_log "passed in ${SECONDS}s"
+    else
+        e2e_log "FAILED (exit $status) after ${SECONDS}s; work folder $E2E_WORK"
+    fi
+    exit "$status"
+}
+
+# Starts the session: work folder, X server + openbox, Wine prefix copy, program folder with the
+# program and its two icons.
+e2e_begin() {
+    SECONDS=0
+    trap e2e_cleanup EXIT
+    trap 'fail "interrupted"' INT TERM
+    # A guard against a hung scenario; it ends the scenario through the same cleanup.
+    (sleep "$E2E_TIMEOUT" && kill -TERM $$ 2>/dev/null) >/dev/null 2>&1 &
+    e2e_watchdog_pid=$!
+
+    [[ -f $E2E_EXE ]] || fail "the program is not built: $E2E_EXE"
+    [[ -f $E2E_DRIVER ]] || fail "the driver is not built: $E2E_DRIVER"
+    rm -rf "$E2E_WORK"
+    mkdir -p "$E2E_PROGRAM_DIR"
+    local icon
+    for icon in veskarneton.ico veskarnetoff.ico; do
+        [[ -f $(dirname "$E2E_EXE")/$icon ]] || fail "$icon is missing beside $E2E_EXE"
+        cp "$(dirname "$E2E_EXE")/$icon" "$E2E_PROGRAM_DIR/"
+    done
+    cp "$E2E_EXE" "$E2E_PROGRAM_DIR/"
+
+    lookout_wine_environment
+    export WINEPREFIX=$E2E_WORK/prefix
+    lookout_wine_prefix_copy "$WINEPREFIX"
+    lookout_start_x
+    e2e_log "session ready (DISPLAY=$DISPLAY)"
+}
+
+# Starts the program in the background from its folder; its output goes to program.log.
+# Sets e2e_program_job to the pid of the Wine process that runs it (it ends when the program ends).
+e2e_start() {
+    (cd "$E2E_PROGRAM_DIR" && exec wine "./$E2E_PROCESS" "$@") >>"$E2E_WORK/program.log" 2>&1 &
+    e2e_program_job=$!
+    e2e_log "started $E2E_PROCESS (job $e2e_program_job)"
+}
+
+# Waits up to SECONDS for the process started by the last e2e_start to end; fails if it does not.
+# Its exit status is left in e2e_program_status.
+e2e_wait_program_end() {
+    local seconds=$1 what=${2:-"the program"} waited=0
+    while kill -0 "$e2e_program_job" 2>/dev/null; do
+        ((waited++ < seconds * 20)) || fail "$what did not end within $seconds s"
+        sleep 0.05
+    done
+    e2e_program_status=0
+    wait "$e2e_program_job" || e2e_program_status=$?
+}
+
+# True while the process started by the last e2e_start runs.
+e2e_program_running() { kill -0 "$e2e_program_job" 2>/dev/null; }
+
+# Ends the Windows session as a shutdown does (WM_QUERYENDSESSION, WM_ENDSESSION, then the end).
+e2e_end_windows_session() {
+    timeout 30 wine wineboot -e >/dev/null 2>&1 || fail "wineboot -e did not finish"
+}
+
+# ---------------------------------------------------------------------------------------------
+# Driver
+
+# Runs lookout_driver with the arguments and prints its output; the scenario fails with the
+# driver's reason when the driver fails. Capture with out=$(drive ...) (not `local out=$(...)`,
+# which would hide the failure).
+drive() {
+    local status=0
+    wine "$E2E_DRIVER" "$@" 2>"$E2E_WORK/driver.err" || status=$?
+    if [[ $status -ne 0 ]]; then
+        fail "lookout_driver $* -> exit $status: $(cat "$E2E_WORK/driver.err")"
+    fi
+}
+
+# Like drive, but returns the driver's exit status instead of failing.
+drive_status() {
+    local status=0
+    wine "$E2E_DRIVER" "$@" 2>"$E2E_WORK/driver.err" || status=$?
+    return "$status"
+}
+
+# Writes a screenshot of the whole virtual screen to WORK_DIR/NAME.png and prints its path.
+e2e_screenshot() {
+    local file=$E2E_WORK/$1.png
+    import -window root "$file" || fail "screenshot $file failed"
+    echo "screenshot: $file"
+}
+
+# ---------------------------------------------------------------------------------------------
+# Files of the program folder
+
+# Waits up to SECONDS for a file in the program folder to exist with a stable size.
+e2e_wait_file() {
+    local file=$E2E_PROGRAM_DIR/$1 seconds=$2 waited=0
+    until [[ -f $file ]]; do
+        ((waited++ < seconds * 20)) || fail "$1 was not created within $seconds s"
+        sleep 0.05
+    done
+    local size=-1
+    while [[ $(stat -c %s "$file") != "$size" ]]; do
+        size=$(stat -c %s "$file")
+        sleep 0.1
+    done
+}
+
+# A file's text converted from code page 932 (the program's files) to UTF-8.
+e2e_file_text() { iconv -f CP932 -t UTF-8 "$E2E_PROGRAM_DIR/$1"; }
+
+# ---------------------------------------------------------------------------------------------
+# Assertions
+
+assert_eq() { # EXPECTED ACTUAL WHAT
+    [[ $1 == "$2" ]] || fail "$3: expected [$1], got [$2]"
+}
+
+assert_contains() { # TEXT EXPECTED_PART WHAT
+    [[ $1 == *"$2"* ]] || fail "$3: [$2] not found in:
+$1"
+}
+
+assert_line() { # TEXT EXPECTED_LINE WHAT: one whole line of TEXT equals EXPECTED_LINE
+    grep -qxF -- "$2" <<<"$1" || fail "$3: no line [$2] in:
+$1"
+}
+
+assert_file_exists() { [[ -f $E2E_PROGRAM_DIR/$1 ]] || fail "$1 does not exist in the program folder"; }
+assert_no_file() { [[ ! -e $E2E_PROGRAM_DIR/$1 ]] || fail "$1 exists in the program folder but should not"; }
+
+# The file in the program folder holds exactly these bytes (pass them as $'...' with \r\n).
+# On a difference it shows both as a hex dump.
+assert_file_bytes() { # NAME EXPECTED
+    local file=$E2E_PROGRAM_DIR/$1
+    [[ -f $file ]] || fail "$1 does not exist in the program folder"
+    if ! cmp -s "$file" <(printf '%s' "$2"); then
+        fail "$1 does not hold the expected bytes.
+--- expected ---
+$(printf '%s' "$2" | od -An -c | head -n 40)
+--- actual ---
+$(od -An -c "$file" | head -n 40)"
+    fi
+}
+
+# The program folder holds exactly these files (folders are not counted).
+assert_program_files() { # NAME...
+    local expected actual
+    expected=$(printf '%s\n' "$@" | sort)
+    actual=$(cd "$E2E_PROGRAM_DIR" && find . -maxdepth 1 -type f -printf '%f\n' | sort)
+    [[ $expected == "$actual" ]] || fail "the program folder should hold exactly:
+$expected
+but holds:
+$actual"
+}
