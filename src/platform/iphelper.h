@@ -1,5 +1,6 @@
 #pragma once
-// IP Helper: the interface table and one interface's fresh counters.
+// IP Helper: the interface table and one interface's fresh counters; the ARP lookup.
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -14,6 +15,13 @@ struct InterfaceRow {
     std::uint32_t outOctets = 0;
 };
 
+// What SendARP left behind.
+struct ArpReply {
+    std::uint32_t result = 0;               // the call's result, 0 on success
+    std::array<std::uint8_t, 8> address{};  // the 8-byte buffer, zeroed before the call
+    std::uint32_t length = 0;               // the physical-address length the call returned
+};
+
 class IIpHelper {
 public:
     virtual ~IIpHelper() = default;
@@ -21,6 +29,9 @@ public:
     virtual std::vector<InterfaceRow> InterfaceTable() = 0;
     // GetIfEntry for one index; nothing when the call fails (the interface vanished).
     virtual std::optional<InterfaceRow> InterfaceEntry(std::uint32_t index) = 0;
+    // SendARP to an IPv4 address in network byte order (as inet_addr gives it), source 0,
+    // an 8-byte buffer and a length of 6 on entry.
+    virtual ArpReply SendArp(std::uint32_t destination) = 0;
 };
 
 }  // namespace platform

@@ -1,0 +1,39 @@
+#pragma once
+// IP Helper over tables: the interfaces, and the ARP answers by destination address.
+#include <map>
+#include <vector>
+
+#include "platform/iphelper.h"
+
+namespace fakes {
+
+class FakeIpHelper : public platform::IIpHelper {
+public:
+    std::vector<platform::InterfaceRow> InterfaceTable() override { return interfaces; }
+    std::optional<platform::InterfaceRow> InterfaceEntry(std::uint32_t index) override {
+        for (const auto& row : interfaces) {
+            if (row.index == index) return row;
+        }
+        return std::nullopt;
+    }
+    platform::ArpReply SendArp(std::uint32_t destination) override {
+        arpRequests.push_back(destination);
+        const auto found = arpReplies.find(destination);
+        return found == arpReplies.end() ? unknownReply : found->second;
+    }
+
+    // An answer with the given bytes, the length being their number.
+    void AddArpReply(std::uint32_t destination, const std::vector<std::uint8_t>& mac) {
+        platform::ArpReply reply;
+        for (std::size_t i = 0; i < mac.size() && i < reply.address.size(); ++i) reply.address[i] = mac[i];
+        reply.length = static_cast<std::uint32_t>(mac.size());
+        arpReplies[destination] = reply;
+    }
+
+    std::vector<platform::InterfaceRow> interfaces;
+    std::map<std::uint32_t, platform::ArpReply> arpReplies;
+    platform::ArpReply unknownReply{67, {}, 0};  // ERROR_BAD_NET_NAME: nobody answered
+    std::vector<std::uint32_t> arpRequests;
+};
+
+}  // namespace fakes

@@ -1,0 +1,241 @@
+#include "network/network_neighbourhood.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/product.h"
+#include "fakes/fake_dialogs.h"
+#include "fakes/fake_ip_helper.h"
+#include "fakes/fake_winsock.h"
+#include "fakes/fake_wnet.h"
+
+namespace network {
+namespace {
+
+using ::testing::ElementsAre;
+namespace msgbox = platform::msgbox;
+namespace wnet = platform::wnet;
+
+constexpr const char* kProvider = "Microsoft Windows Network";
+constexpr const char* kConfirmation =
+    "\r\nマイ ネットワーク情報の取得には数分間\r\n\r\nかかることがございます。\r\n\r\n実行してもよろしいでしょうか？\r\n";
+
+platform::NetResource Record(std::uint32_t displayType, std::uint32_t usage, const std::string& remoteName) {
+    platform::NetResource record;
+    record.scope = wnet::kScopeGlobalNet;
+    record.displayType = displayType;
+    record.usage = usage;
+    record.remoteName = remoteName;
+    record.provider = kProvider;
+    return record;
+}
+platform::NetResource Domain(const std::string& name) {
+    return Record(wnet::kDisplayTypeDomain, wnet::kUsageContainer, name);
+}
+platform::NetResource Server(const std::string& name) {
+    return Record(wnet::kDisplayTypeServer, wnet::kUsageContainer, name);
+}
+
+using Rows = std::vector<std::vector<std::string>>;
+
+class ListNetworkPcsTest : public ::testing::Test {
+protected:
+    void SetUp() override { dialogs.answers = {msgbox::kYes}; }
+
+    std::size_t Run() { return ListNetworkPcs(dialogs, net, winsock, arp, lstvPc); }
+
+    Rows AllRows() const {
+        Rows rows;
+        for (std::size_t i = 0; i < lstvPc.RowCount(); ++i) rows.push_back(lstvPc.RowAt(i).cells);
+        return rows;
+    }
+    std::vector<std::string> Texts() const {
+        std::vector<std::string> texts;
+        for (const auto& message : dialogs.messages) texts.push_back(message.text);
+        return texts;
+    }
+    // A PC that resolves and answers ARP.
+    void AddPc(const std::string& name, const std::string& address, const std::vector<std::uint8_t>& mac) {
+        winsock.AddHost(name, {address});
+        arp.AddArpReply(fakes::InetAddr(address), mac);
+    }
+    void TwoWorkgroups() {
+        net.containers[kProvider].batches = {{Domain("WORKGROUP"), Domain("OFFICE")}};
+        net.containers["WORKGROUP"].batches = {{Server("\\\\PC01"), Server("\\\\PC02")}};
+        net.containers["OFFICE"].batches = {{Server("\\\\SV01")}};
+        AddPc("PC01", "192.168.1.11", {0x00, 0x0A, 0x95, 0x9D, 0x68, 0x16});
+        AddPc("PC02", "192.168.1.12", {0x00, 0x1B, 0x0C, 0x00, 0x05, 0xFF});
+        AddPc("SV01", "10.0.0.2", {0x08, 0x00, 0x27, 0xAA, 0xBB, 0xCC});
+    }
+
+    fakes::FakeDialogs dialogs;
+    fakes::FakeWNet net;
+    fakes::FakeWinsock winsock;
+    fakes::FakeIpHelper arp;
+    base::TableModel lstvPc;
+};
+
+TEST_F(ListNetworkPcsTest, ListsEveryServerOfEveryDomain) {
+    TwoWorkgroups();
+    lstvPc.AddRow({"OLD", "1.2.3.4", "00:1:2:3:4:5", "GONE"});
+
+    EXPECT_EQ(Run(), 3u);
+
+    EXPECT_EQ(AllRows(), (Rows{{"PC01", "192.168.1.11", "00:A:95:9D:68:16", "WORKGROUP"},
+                               {"PC02", "192.168.1.12", "00:1B:C:00:5:FF", "WORKGROUP"},
+                               {"SV01", "10.0.0.2", "8:00:27:AA:BB:CC", "OFFICE"}}));
+    ASSERT_EQ(dialogs.messages.size(), 2u);
+    EXPECT_EQ(dialogs.messages[0].text, kConfirmation);
+    EXPECT_EQ(dialogs.messages[0].title, base::kProductName);
+    EXPECT_EQ(dialogs.messages[0].style, msgbox::kYesNo | msgbox::kQuestion);
+    EXPECT_EQ(dialogs.messages[1].text, "マイ ネットワーク情報取得完了");
+    EXPECT_EQ(dialogs.messages[1].title, base::kProductName);
+    EXPECT_EQ(dialogs.messages[1].style, msgbox::kInformation);
+    EXPECT_EQ(net.openEnumerations, 0);
+    EXPECT_EQ(winsock.started, 0);
+}
+
+TEST_F(ListNetworkPcsTest, OpensTheNetworkByItsProviderAndEachDomainByItsRecord) {
+    TwoWorkgroups();
+    Run();
+    ASSERT_EQ(net.opens.size(), 3u);
+    for (const auto& open : net.opens) {
+        EXPECT_EQ(open.scope, wnet::kScopeGlobalNet);
+        EXPECT_EQ(open.type, wnet::kTypeAny);
+        EXPECT_EQ(open.usage, 0u);
+    }
+    EXPECT_EQ(net.opens[0].container.provider, kProvider);
+    EXPECT_EQ(net.opens[0].container.remoteName, "");
+    EXPECT_EQ(net.opens[0].container.displayType, 0u);
+    EXPECT_EQ(net.opens[1].container.remoteName, "WORKGROUP");
+    EXPECT_EQ(net.opens[1].container.displayType, wnet::kDisplayTypeDomain);
+    EXPECT_EQ(net.opens[2].container.remoteName, "OFFICE");
+}
+
+TEST_F(ListNetworkPcsTest, KeepsDomainsAtTheFirstLevelAndServersAtTheSecond) {
+    platform::NetResource share = Record(6, wnet::kUsageConnectable, "\\\\PC01\\共有");  // a share point
+    platform::NetResource generic = Record(0, wnet::kUsageContainer, "\\\\ODD");
+    net.containers[kProvider].batches = {{Server("\\\\STRAY"), Domain("WORKGROUP"), generic}};
+    net.containers["WORKGROUP"].batches = {{Domain("INNER"), share, Server("\\\\PC01"), generic}};
+    AddPc("PC01", "192.168.1.11", {0x00, 0x0A, 0x95, 0x9D, 0x68, 0x16});
+
+    EXPECT_EQ(Run(), 1u);
+    EXPECT_EQ(AllRows(), (Rows{{"PC01", "192.168.1.11", "00:A:95:9D:68:16", "WORKGROUP"}}));
+    ASSERT_EQ(net.opens.size(), 2u);  // neither the stray server nor the inner domain is opened
+}
+
+TEST_F(ListNetworkPcsTest, ReadsEveryBatchOfAnEnumeration) {
+    net.containers[kProvider].batches = {{Domain("A")}, {Domain("B")}};
+    net.containers["A"].batches = {{Server("\\\\PC01")}, {Server("\\\\PC02")}};
+    net.containers["B"].batches = {};
+    EXPECT_EQ(Run(), 2u);
+    EXPECT_EQ(lstvPc.Cell(1, 0), "PC02");
+    EXPECT_EQ(Texts().back(), "マイ ネットワーク情報取得完了");
+}
+
+TEST_F(ListNetworkPcsTest, AFailedReadEndsThatLevelOnly) {
+    net.containers[kProvider].batches = {{Domain("A")}};
+    net.containers[kProvider].endResult = 1222;
+    net.containers["A"].batches = {{Server("\\\\PC01")}};
+    net.containers["A"].endResult = 59;  // ERROR_UNEXP_NET_ERR
+    EXPECT_EQ(Run(), 1u);
+    EXPECT_EQ(Texts().back(), "マイ ネットワーク情報取得完了");
+}
+
+TEST_F(ListNetworkPcsTest, APcThatDoesNotAnswerArpShowsItsAddress) {
+    net.containers[kProvider].batches = {{Domain("WORKGROUP")}};
+    net.containers["WORKGROUP"].batches = {{Server("\\\\PC03")}};
+    winsock.AddHost("PC03", {"192.168.1.13"});
+    Run();
+    EXPECT_EQ(AllRows(), (Rows{{"PC03", "192.168.1.13", "(SendARP call failed)", "WORKGROUP"}}));
+}
+
+TEST_F(ListNetworkPcsTest, APcWhoseNameDoesNotResolveHasNeitherAddressNorMac) {
+    net.containers[kProvider].batches = {{Domain("WORKGROUP")}};
+    net.containers["WORKGROUP"].batches = {{Server("\\\\GHOST")}};
+    Run();
+    EXPECT_EQ(AllRows(), (Rows{{"GHOST", "", "", "WORKGROUP"}}));
+    EXPECT_TRUE(arp.arpRequests.empty());
+}
+
+TEST_F(ListNetworkPcsTest, EachNameIsResolvedBetweenItsOwnStartAndStop) {
+    TwoWorkgroups();
+    Run();
+    EXPECT_THAT(winsock.calls, ElementsAre("startup 257", "byname PC01", "cleanup",  //
+                                           "startup 257", "byname PC02", "cleanup",  //
+                                           "startup 257", "byname SV01", "cleanup"));
+}
+
+TEST_F(ListNetworkPcsTest, WithoutWinsockThePcsAreListedByNameOnly) {
+    TwoWorkgroups();
+    winsock.startupResult = 10091;
+    EXPECT_EQ(Run(), 3u);
+    EXPECT_EQ(lstvPc.RowAt(0).cells, (std::vector<std::string>{"PC01", "", "", "WORKGROUP"}));
+    EXPECT_TRUE(arp.arpRequests.empty());
+    EXPECT_THAT(Texts(), ElementsAre(kConfirmation, "マイ ネットワーク情報取得完了"));
+}
+
+TEST_F(ListNetworkPcsTest, AFailedWinsockStopIsReportedForEachPc) {
+    net.containers[kProvider].batches = {{Domain("WORKGROUP")}};
+    net.containers["WORKGROUP"].batches = {{Server("\\\\PC01"), Server("\\\\PC02")}};
+    winsock.cleanupResult = -1;
+    EXPECT_EQ(Run(), 2u);
+    EXPECT_THAT(Texts(), ElementsAre(kConfirmation, "エラー", "エラー", "マイ ネットワーク情報取得完了"));
+}
+
+TEST_F(ListNetworkPcsTest, MachineNameDropsTheFirstTwoCharacters) {
+    net.containers[kProvider].batches = {{Domain("作業グループ")}};
+    net.containers["作業グループ"].batches = {{Server("\\\\経理PC"), Server("\\\\"), Server("\\")}};
+    EXPECT_EQ(Run(), 3u);
+    EXPECT_EQ(lstvPc.RowAt(0).cells, (std::vector<std::string>{"経理PC", "", "", "作業グループ"}));
+    EXPECT_EQ(lstvPc.Cell(1, 0), "");
+    EXPECT_EQ(lstvPc.Cell(2, 0), "");
+}
+
+TEST_F(ListNetworkPcsTest, DecliningLeavesTheListUntouched) {
+    TwoWorkgroups();
+    lstvPc.AddRow({"OLD", "1.2.3.4", "00:1:2:3:4:5", "GONE"});
+    for (const int answer : {msgbox::kNo, msgbox::kCancel}) {
+        dialogs.answers = {answer};
+        EXPECT_EQ(Run(), 1u);
+    }
+    EXPECT_EQ(AllRows(), (Rows{{"OLD", "1.2.3.4", "00:1:2:3:4:5", "GONE"}}));
+    EXPECT_THAT(Texts(), ElementsAre(kConfirmation, kConfirmation));
+    EXPECT_TRUE(net.opens.empty());
+    EXPECT_TRUE(winsock.calls.empty());
+}
+
+TEST_F(ListNetworkPcsTest, TheNetworkThatCannotBeOpenedIsErrorNumberOne) {
+    lstvPc.AddRow({"OLD", "1.2.3.4", "00:1:2:3:4:5", "GONE"});
+    // No container at all: 1222, no network, as on a PC without one.
+    EXPECT_EQ(Run(), 0u);
+    EXPECT_THAT(Texts(), ElementsAre(kConfirmation, "WNetOpenEnum Error No.1"));
+    EXPECT_EQ(dialogs.messages[1].title, base::kProductName);
+    EXPECT_EQ(dialogs.messages[1].style, msgbox::kOkOnly);
+    EXPECT_EQ(net.opens.size(), 1u);
+}
+
+TEST_F(ListNetworkPcsTest, ADomainThatCannotBeOpenedIsErrorNumberTwoAndEndsTheRun) {
+    TwoWorkgroups();
+    net.containers[kProvider].batches = {{Domain("WORKGROUP"), Domain("LOCKED"), Domain("OFFICE")}};
+    net.containers["LOCKED"].openResult = 5;  // access denied
+    EXPECT_EQ(Run(), 2u);
+    EXPECT_EQ(lstvPc.Cell(0, 0), "PC01");
+    EXPECT_EQ(lstvPc.Cell(1, 0), "PC02");
+    EXPECT_THAT(Texts(), ElementsAre(kConfirmation, "WNetOpenEnum Error No.2"));
+    EXPECT_EQ(dialogs.messages[1].style, msgbox::kOkOnly);
+    EXPECT_EQ(net.opens.size(), 3u);  // OFFICE is never opened
+    EXPECT_EQ(net.openEnumerations, 0);
+}
+
+TEST_F(ListNetworkPcsTest, AnErrorDuringTheRunIsListPcEnumError) {
+    TwoWorkgroups();
+    net.containers["OFFICE"].readThrows = true;
+    EXPECT_EQ(Run(), 2u);
+    EXPECT_THAT(Texts(), ElementsAre(kConfirmation, "listPcEnum Error"));
+    EXPECT_EQ(dialogs.messages[1].style, msgbox::kOkOnly);
+    EXPECT_EQ(net.openEnumerations, 0);
+}
+
+}  // namespace
+}  // namespace network
