@@ -1,0 +1,131 @@
+#include "app/session_guard.h"
+
+#include "app/traffic_text.h"
+#include "base/conversions.h"
+#include "base/fixed_array.h"
+#include "base/local_time.h"
+#include "base/product.h"
+
+namespace app {
+namespace {
+
+constexpr std::size_t kAutosaveRows = 10000;
+
+bool Answered(std::uint32_t status) {
+    return status == platform::kNerrSuccess || status == platform::kErrorMoreData;
+}
+
+// Only slots 2 to 20 are compared: the first text box of a list is kept but never enforced.
+bool Listed(const PcList& list, const std::string& client) {
+    for (int slot = 2; slot <= 20; ++slot) {
+        if (list[slot] == client) return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+SessionGuard::SessionGuard(Program& program, IMonitorHost& host, platform::INetApi& net, IClientLookup& lookup,
+                           platform::IBeeper& beeper, platform::IClock& clock)
+    : m_program(program), m_host(host), m_net(net), m_lookup(lookup), m_beeper(beeper), m_clock(clock) {}
+
+std::string SessionGuard::Stamp() { return base::MonitorStamp(m_clock.Now()); }
+
+std::int16_t SessionGuard::Run(const std::string& server) {
+    std::int16_t count = 0;
+    // The clients of one tick are kept in 100 slots: a 101st session raises the subscript error.
+    base::FixedArray<std::string, 0, 99> clients;
+    int nextClient = 0;
+    m_host.SessionList().Clear();
+    m_program.tray.tip.clear();
+
+    std::uint32_t resume = 0;
+    platform::SessionBatch batch;
+    do {
+        batch = m_net.EnumSessions(server, resume);
+        if (Answered(batch.status)) {
+            for (const auto& session : batch.records) {
+                if (session.userName.empty()) continue;  // a null session
+                count = base::ToInt16(count + 1.0);
+                if (m_program.settings.beep == 1) m_beeper.Beep();
+                clients[nextClient++] = session.clientName;
+                RecordSession(session);
+            }
+        }
+        m_host.DoEvents();
+    } while (batch.entriesRead != batch.totalEntries);
+
+    if (count == 0) {
+        m_program.tray.currentIcon = "veskarnetoff.ico";
+        m_program.tray.tip = std::string(base::kProductName) + "  －監視中－";
+    } else {
+        m_program.tray.currentIcon = "veskarneton.ico";
+    }
+    m_host.SetStatusPanel(2, "サーバ : " + server);
+    return count;
+}
+
+void SessionGuard::RecordSession(const platform::SessionInfo& session) {
+    const std::string& client = session.clientName;
+    std::string address = client;
+    std::string hostName = client;
+    if (const auto found = m_lookup.Lookup(client)) {
+        if (!found->address.empty()) address = found->address;
+        if (!found->hostName.empty()) hostName = found->hostName;
+    }
+    m_host.MainMonitor().AddRow({Stamp() + "  PC : " + client + "(" + address + "/" + hostName + ")" +
+                                 " USER : " + session.userName + " OS : " + session.clientType + " 送信 : " +
+                                 KilobyteFigure(m_host.TrafficLabel(0)) + " KB" + " 受信 : " +
+                                 KilobyteFigure(m_host.TrafficLabel(1)) + " KB"});
+    m_host.SessionList().AddRow({client, session.userName});
+    m_program.tray.tip += "[" + client + "]";
+    CheckLists(client, session.userName);
+}
+
+void SessionGuard::CheckLists(const std::string& client, const std::string& user) {
+    // The deny check comes first: a client on both lists is reported and disconnected by it.
+    if (IsEnforced(m_program.denyList) && Listed(m_program.denyList, client)) {
+        MarkForDisconnection("  アクセス拒否違反の為､", client, user);
+    }
+    if (IsEnforced(m_program.allowList) && !Listed(m_program.allowList, client)) {
+        MarkForDisconnection("  アクセス許可違反の為､", client, user);
+    }
+}
+
+void SessionGuard::MarkForDisconnection(const char* reason, const std::string& client, const std::string& user) {
+    m_host.MainMonitor().AddRow({Stamp() + reason + client + "に対して切断処理を実行しました｡"});
+    m_host.DisconnectList().AddRow({user, client});
+}
+
+void SessionGuard::DisconnectMarked() {
+    base::TableModel& list = m_host.DisconnectList();
+    for (std::size_t row = 0; row < list.RowCount(); ++row) {
+        const std::string client = list.Cell(row, 1);
+        if (client.empty()) continue;
+        m_net.DeleteSession(client, list.Cell(row, 0));  // a failure is tried again at the next tick
+    }
+}
+
+void SessionGuard::LogOpenFiles() {
+    std::vector<platform::OpenFileInfo> files;
+    std::uintptr_t resume = 0;
+    platform::FileBatch batch;
+    do {
+        batch = m_net.EnumOpenFiles(resume);
+        if (!Answered(batch.status)) return;
+        files.insert(files.end(), batch.records.begin(), batch.records.end());
+    } while (batch.status == platform::kErrorMoreData);
+
+    base::TableModel& monitor = m_host.MainMonitor();
+    for (const auto& file : files) {
+        monitor.AddRow({Stamp() + "  使用中のファイル : " + file.pathName + " USER : " + file.userName});
+    }
+    if (monitor.RowCount() > kAutosaveRows) {
+        m_host.SaveMainMonitor();
+        monitor.Clear();
+        monitor.AddRow({base::kBanner});
+        monitor.AddRow({Stamp() + "  ログを自動保存しました。"});
+    }
+}
+
+}  // namespace app

@@ -1,0 +1,44 @@
+#pragma once
+// The share-session guard: at every monitoring tick it lists the sessions other PCs hold on
+// this PC's shares, records them in the main monitor, beeps, and marks the PCs that break
+// the enforced deny or allow list for disconnection.
+#include <cstdint>
+#include <string>
+
+#include "app/client_lookup.h"
+#include "app/monitor_host.h"
+#include "app/program.h"
+#include "platform/beeper.h"
+#include "platform/clock.h"
+#include "platform/netapi.h"
+
+namespace app {
+
+class SessionGuard {
+public:
+    SessionGuard(Program& program, IMonitorHost& host, platform::INetApi& net, IClientLookup& lookup,
+                 platform::IBeeper& beeper, platform::IClock& clock);
+
+    // Runs the guard for the server and returns the number of sessions counted.
+    std::int16_t Run(const std::string& server);
+    // Timer2: disconnects every client of the disconnection list.
+    void DisconnectMarked();
+    // After each tick: one main-monitor row per file other users hold open, then the
+    // automatic save of a main monitor that has grown past 10000 rows.
+    void LogOpenFiles();
+
+private:
+    void RecordSession(const platform::SessionInfo& session);
+    void CheckLists(const std::string& client, const std::string& user);
+    void MarkForDisconnection(const char* reason, const std::string& client, const std::string& user);
+    std::string Stamp();
+
+    Program& m_program;
+    IMonitorHost& m_host;
+    platform::INetApi& m_net;
+    IClientLookup& m_lookup;
+    platform::IBeeper& m_beeper;
+    platform::IClock& m_clock;
+};
+
+}  // namespace app

@@ -1,0 +1,200 @@
+#include "app/monitoring_cycle.h"
+
+#include <gtest/gtest.h>
+
+#include "app/uptime.h"
+#include "fakes/fake_clock.h"
+#include "fakes/fake_ip_helper.h"
+#include "monitoring_fakes.h"
+
+namespace app {
+namespace {
+
+TEST(Uptime, FieldsKeepTheirLastTwoDigits) {
+    EXPECT_EQ(UptimeText(0), "Windows起動の経過時間 00:00:00");
+    EXPECT_EQ(UptimeText(3723000), "Windows起動の経過時間 01:02:03");
+    EXPECT_EQ(UptimeText(59999), "Windows起動の経過時間 00:00:59");
+    EXPECT_EQ(UptimeText(123 * 3600000u + 4 * 60000u + 5000u), "Windows起動の経過時間 23:04:05");  // 123 hours
+}
+
+class MonitoringCycleTest : public ::testing::Test {
+protected:
+    MonitoringCycleTest() {
+        program.folder = "C:\\L\\";
+        program.settings = DefaultSettings();
+        program.settings.time = "1";
+        program.allowList[0] = program.denyList[0] = "NG";
+        ipHelper.interfaces = {{1, "lo", 0, 0}, {2, "eth0", 1000, 5000}};
+    }
+
+    void SetCounters(std::uint32_t in, std::uint32_t out) {
+        ipHelper.interfaces[1].inOctets = in;
+        ipHelper.interfaces[1].outOctets = out;
+    }
+    // The cycle started from the toolbar on interface 1 ("1: eth0").
+    void StartOnEth0() {
+        cycle.LoadInterfaces();
+        host.selectedInterface = "1: eth0";
+        cycle.StartCommand();
+    }
+    std::size_t Rows() const { return host.mainMonitor.RowCount(); }
+
+    Program program;
+    ::fakes::FakeMonitorHost host;
+    ::fakes::FakeNetApi net;
+    ::fakes::FakeLookup lookup;
+    ::fakes::FakeBeeper beeper;
+    ::fakes::FakeIpHelper ipHelper;
+    ::fakes::FakeTrayIcon tray;
+    ::fakes::FakeClock clock;
+    SessionGuard guard{program, host, net, lookup, beeper, clock};
+    MonitoringCycle cycle{program, host, clock, ipHelper, tray, guard};
+};
+
+TEST_F(MonitoringCycleTest, InterfaceLabelEndsOnTheLastRowOrTheStoredChoice) {
+    cycle.LoadInterfaces();
+    EXPECT_EQ(cycle.InterfaceTexts(), (std::vector<std::string>{"0: lo", "1: eth0"}));
+    EXPECT_EQ(host.selectedInterface, "1: eth0");
+    program.settings.nc = "0: lo";
+    cycle.LoadInterfaces();
+    EXPECT_EQ(host.selectedInterface, "0: lo");
+}
+
+TEST_F(MonitoringCycleTest, StartAndStopWriteTheirRowsAndSwitchTimersButtonsAndTray) {
+    clock.ticks = 3723000;
+    StartOnEth0();
+    EXPECT_TRUE(host.timersOn);
+    EXPECT_EQ(host.timer1Interval, 1000u);
+    EXPECT_TRUE(host.runButtonsShowRunning);
+    EXPECT_EQ(host.LastRow(), "[2005/06/22 09:05:03]  監視を開始しました。Windows起動の経過時間 01:02:03");
+    ASSERT_FALSE(tray.shown.empty());
+    EXPECT_EQ(tray.shown.back(), "C:\\L\\veskarnetoff.ico|Veskar_Lookout  －監視中－");
+
+    cycle.StopMonitoring();
+    EXPECT_FALSE(host.timersOn);
+    EXPECT_FALSE(host.runButtonsShowRunning);
+    EXPECT_EQ(host.LastRow(), "[2005/06/22 09:05:03] 監視を停止しました。");
+    EXPECT_EQ(tray.shown.back(), "C:\\L\\veskarnetoff.ico|Veskar_Lookout  －停止中－");
+}
+
+TEST_F(MonitoringCycleTest, IntervalFollowsTheTimeSettingAndNonNumbersLeaveTheTimerIdle) {
+    program.settings.time = "2.5";
+    cycle.StartMonitoring();
+    EXPECT_EQ(host.timer1Interval, 2500u);
+    program.settings.time = "abc";
+    cycle.StartMonitoring();
+    EXPECT_EQ(host.timer1Interval, 0u);
+}
+
+TEST_F(MonitoringCycleTest, FirstTickTakesTheSampleAndWritesNothing) {
+    StartOnEth0();
+    const auto rows = Rows();
+    cycle.Timer1Tick();
+    EXPECT_EQ(host.labels[0], "0");
+    EXPECT_EQ(host.labels[1], "0");
+    EXPECT_TRUE(host.graphs[0].empty());
+    EXPECT_TRUE(host.graphs[1].empty());
+    EXPECT_EQ(Rows(), rows);
+}
+
+TEST_F(MonitoringCycleTest, TrafficRowShowsReceivedAfterSendAndSentAfterReceive) {
+    StartOnEth0();
+    cycle.Timer1Tick();
+    SetCounters(1000 + 1234567, 5000 + 250000);
+    cycle.Timer1Tick();
+    EXPECT_EQ(host.labels[0], "1234567");
+    EXPECT_EQ(host.labels[1], "250000");
+    EXPECT_EQ(host.LastRow(), "[2005/06/22 09:05:03]  送信 : 1,235 KB  受信 : 250 KB");
+    // The graphs are clipped at 100000; the labels keep the true delta.
+    EXPECT_EQ(host.graphs[0], std::vector<float>{100000});
+    EXPECT_EQ(host.graphs[1], std::vector<float>{100000});
+
+    SetCounters(1000 + 1234567 + 99999, 5000 + 250000);
+    cycle.Timer1Tick();
+    EXPECT_EQ(host.graphs[0].back(), 99999);
+    EXPECT_EQ(host.graphs[1].back(), 0);
+}
+
+TEST_F(MonitoringCycleTest, NoRowWhenNothingWasReceivedOrPacketIsOff) {
+    StartOnEth0();
+    cycle.Timer1Tick();
+    const auto rows = Rows();
+    SetCounters(1000, 5000 + 80000);  // outgoing traffic only
+    cycle.Timer1Tick();
+    EXPECT_EQ(Rows(), rows);
+    program.settings.packet = 0;
+    SetCounters(9000, 5000 + 80000);
+    cycle.Timer1Tick();
+    EXPECT_EQ(Rows(), rows);
+}
+
+TEST_F(MonitoringCycleTest, CountersAreSignedThirtyTwoBitAndAWrapGivesANegativeDelta) {
+    StartOnEth0();
+    SetCounters(0x7FFFFFF0u, 0);
+    cycle.Timer1Tick();
+    SetCounters(0x80000010u, 0);  // passes 2^31
+    cycle.Timer1Tick();
+    EXPECT_EQ(program.traffic.receivedNow, "-2147483632");
+    EXPECT_EQ(host.labels[0], "-4294967264");
+    EXPECT_EQ(host.graphs[0].back(), -4294967264.0f);
+}
+
+TEST_F(MonitoringCycleTest, SentDeltaSpansAStopWhileTheReceivedSideStartsAfresh) {
+    StartOnEth0();
+    cycle.Timer1Tick();
+    cycle.StopMonitoring();
+    SetCounters(1000 + 7000, 5000 + 9000);
+    cycle.StartCommand();
+    cycle.Timer1Tick();
+    EXPECT_EQ(host.labels[0], "0");     // fresh received sample
+    EXPECT_EQ(host.labels[1], "9000");  // measured against the value from before the stop
+    EXPECT_EQ(host.graphs[1], std::vector<float>{9000});
+}
+
+TEST_F(MonitoringCycleTest, OnlyTheFirstCharacterOfTheLabelSelectsTheRow) {
+    cycle.LoadInterfaces();
+    ipHelper.interfaces.resize(13);
+    for (std::uint32_t i = 2; i < 13; ++i) ipHelper.interfaces[i] = {i + 1, "if", 0, 0};
+    cycle.LoadInterfaces();
+    host.selectedInterface = "12: if";  // selects row 1, eth0
+    cycle.StartCommand();
+    cycle.Timer1Tick();
+    SetCounters(1000 + 3000, 5000);
+    cycle.Timer1Tick();
+    EXPECT_EQ(host.labels[0], "3000");
+}
+
+TEST_F(MonitoringCycleTest, VanishedInterfaceReadsZeroAndTheNextDeltaIsNegative) {
+    StartOnEth0();
+    cycle.Timer1Tick();
+    ipHelper.interfaces[1].index = 99;  // GetIfEntry of the kept index now fails
+    cycle.Timer1Tick();
+    EXPECT_EQ(host.labels[0], "-1000");
+    EXPECT_EQ(host.labels[1], "-5000");
+}
+
+TEST_F(MonitoringCycleTest, ChangedSessionCountRaisesOneAlertPerSessionAndSwitchesTheTray) {
+    StartOnEth0();
+    net.steadySessions = fakes::FakeNetApi::Sessions({{"PC1", "taro", "W"}, {"PC2", "hana", "W"}});
+    cycle.Timer1Tick();
+    EXPECT_EQ(host.alerts, (std::vector<std::string>{"[マシン名]\r\nPC1\r\n[ユーザ名]\r\ntaro",
+                                                     "[マシン名]\r\nPC2\r\n[ユーザ名]\r\nhana"}));
+    EXPECT_EQ(tray.shown.back(), "C:\\L\\veskarneton.ico|[PC1][PC2]");
+    EXPECT_EQ(net.servers.back(), "MYPC");  // the computer-name box names the server
+
+    cycle.Timer1Tick();  // same count: no new alert
+    EXPECT_EQ(host.alerts.size(), 2u);
+
+    net.steadySessions = {};
+    cycle.Timer1Tick();  // the count changed to 0: nothing to announce
+    EXPECT_EQ(host.alerts.size(), 2u);
+    EXPECT_EQ(tray.shown.back(), "C:\\L\\veskarnetoff.ico|Veskar_Lookout  －監視中－");
+
+    program.settings.window = 0;
+    net.steadySessions = fakes::FakeNetApi::Sessions({{"PC3", "x", "W"}});
+    cycle.Timer1Tick();
+    EXPECT_EQ(host.alerts.size(), 2u);
+}
+
+}  // namespace
+}  // namespace app

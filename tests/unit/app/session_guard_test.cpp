@@ -1,0 +1,190 @@
+#include "app/session_guard.h"
+
+#include <gtest/gtest.h>
+
+#include "app/settings.h"
+#include "base/product.h"
+#include "base/runtime_error.h"
+#include "fakes/fake_clock.h"
+#include "monitoring_fakes.h"
+
+namespace app {
+namespace {
+
+using ::fakes::FakeNetApi;
+
+platform::SessionInfo Session(std::string client, std::string user, std::string type = "Windows 2002 Service Pack 1 2600") {
+    return {std::move(client), std::move(user), std::move(type)};
+}
+
+class SessionGuardTest : public ::testing::Test {
+protected:
+    SessionGuardTest() {
+        program.settings = DefaultSettings();
+        program.allowList[0] = "NG";
+        program.denyList[0] = "NG";
+        host.labels[0] = "1234567";
+        host.labels[1] = "500";
+    }
+
+    std::vector<std::string> Rows() const {
+        std::vector<std::string> rows;
+        for (std::size_t i = 0; i < host.mainMonitor.RowCount(); ++i) rows.push_back(host.Row(i));
+        return rows;
+    }
+
+    Program program;
+    ::fakes::FakeMonitorHost host;
+    FakeNetApi net;
+    ::fakes::FakeLookup lookup;
+    ::fakes::FakeBeeper beeper;
+    ::fakes::FakeClock clock;
+    SessionGuard guard{program, host, net, lookup, beeper, clock};
+};
+
+TEST_F(SessionGuardTest, EachSessionWithAUserGetsARowAndNullSessionsAreIgnored) {
+    lookup.known["PC1"] = {"192.168.0.7", "pc1.local"};
+    net.steadySessions = FakeNetApi::Sessions({Session("PC1", "taro"), Session("PC2", ""), Session("PC3", "hana", "")});
+    program.settings.beep = 1;
+    EXPECT_EQ(guard.Run("SERVER"), 2);
+    EXPECT_EQ(beeper.beeps, 2);
+    EXPECT_EQ(net.servers, std::vector<std::string>{"SERVER"});
+    EXPECT_EQ(Rows(), (std::vector<std::string>{
+                          "[2005/06/22 09:05:03]  PC : PC1(192.168.0.7/pc1.local) USER : taro OS : Windows 2002 "
+                          "Service Pack 1 2600 送信 : 1,235 KB 受信 : 1 KB",
+                          // Names that do not resolve show the raw client name.
+                          "[2005/06/22 09:05:03]  PC : PC3(PC3/PC3) USER : hana OS :  送信 : 1,235 KB 受信 : 1 KB"}));
+    EXPECT_EQ(host.sessionList.RowCount(), 2u);
+    EXPECT_EQ(host.sessionList.Cell(1, 0), "PC3");
+    EXPECT_EQ(host.sessionList.Cell(1, 1), "hana");
+    EXPECT_EQ(program.tray.tip, "[PC1][PC3]");
+    EXPECT_EQ(program.tray.currentIcon, "veskarneton.ico");
+    EXPECT_EQ(host.panels[2], "サーバ : SERVER");
+    EXPECT_EQ(host.disconnectList.RowCount(), 0u);  // both lists off: never disconnected
+
+    // Every tick re-enumerates: an open session is logged and beeped again.
+    guard.Run("SERVER");
+    EXPECT_EQ(beeper.beeps, 4);
+    EXPECT_EQ(host.sessionList.RowCount(), 2u);
+}
+
+TEST_F(SessionGuardTest, WinsockThatDoesNotStartLeavesTheRawNames) {
+    lookup.winsockStarts = false;
+    net.steadySessions = FakeNetApi::Sessions({Session("10.0.0.2", "u")});
+    guard.Run("S");
+    EXPECT_NE(host.Row(0).find("PC : 10.0.0.2(10.0.0.2/10.0.0.2) USER : u"), std::string::npos);
+}
+
+TEST_F(SessionGuardTest, MoreDataIsFollowedAndFailedCallsSkipTheirRecords) {
+    net.sessionAnswers = {
+        {platform::kErrorMoreData, {Session("A", "a")}, 1, 3},
+        {5, {Session("IGNORED", "x")}, 1, 3},  // access denied: its records are not used
+        {platform::kNerrSuccess, {Session("B", "b"), Session("C", "c")}, 3, 3},
+    };
+    EXPECT_EQ(guard.Run("S"), 3);
+    EXPECT_EQ(net.servers.size(), 3u);
+    EXPECT_EQ(program.tray.tip, "[A][B][C]");
+    EXPECT_GE(host.pumps, 3);
+}
+
+TEST_F(SessionGuardTest, NoSessionGivesTheOffIconAndTheMonitoringTip) {
+    program.tray.currentIcon = "veskarneton.ico";
+    net.steadySessions = {50, {}, 0, 0};  // not supported; the counts were never written
+    EXPECT_EQ(guard.Run("S"), 0);
+    EXPECT_EQ(program.tray.currentIcon, "veskarnetoff.ico");
+    EXPECT_EQ(program.tray.tip, "Veskar_Lookout  －監視中－");
+    EXPECT_TRUE(Rows().empty());
+}
+
+TEST_F(SessionGuardTest, DenyListComparesSlotsTwoToTwentyExactly) {
+    program.denyList[0] = "OK";
+    program.denyList[1] = "FIRSTBOX";  // the first box is never enforced
+    program.denyList[2] = "BAD";
+    program.denyList[20] = "LAST";
+    net.steadySessions = FakeNetApi::Sessions(
+        {Session("FIRSTBOX", "u"), Session("bad", "u"), Session("BAD", "eve"), Session("LAST", "u")});
+    guard.Run("S");
+    const auto rows = Rows();
+    ASSERT_EQ(rows.size(), 6u);
+    EXPECT_EQ(rows[3], "[2005/06/22 09:05:03]  アクセス拒否違反の為､BADに対して切断処理を実行しました｡");
+    EXPECT_EQ(rows[5], "[2005/06/22 09:05:03]  アクセス拒否違反の為､LASTに対して切断処理を実行しました｡");
+    ASSERT_EQ(host.disconnectList.RowCount(), 2u);
+    EXPECT_EQ(host.disconnectList.Cell(0, 1), "BAD");
+    EXPECT_EQ(host.disconnectList.Cell(0, 0), "eve");
+}
+
+TEST_F(SessionGuardTest, AllowListReportsEveryClientItDoesNotHold) {
+    program.allowList[0] = "OK";  // enforced with no entries
+    net.steadySessions = FakeNetApi::Sessions({Session("PC1", "u"), Session("PC2", "u")});
+    guard.Run("S");
+    EXPECT_EQ(Rows()[1], "[2005/06/22 09:05:03]  アクセス許可違反の為､PC1に対して切断処理を実行しました｡");
+    EXPECT_EQ(host.disconnectList.RowCount(), 2u);
+
+    program.allowList[2] = "PC1";
+    program.allowList[1] = "PC2";  // slot 1 does not allow
+    host.mainMonitor.Clear();
+    host.disconnectList.Clear();
+    guard.Run("S");
+    ASSERT_EQ(host.disconnectList.RowCount(), 1u);
+    EXPECT_EQ(host.disconnectList.Cell(0, 1), "PC2");
+}
+
+TEST_F(SessionGuardTest, AClientOnBothListsIsDeniedAndPassesTheAllowCheck) {
+    program.denyList[0] = "OK";
+    program.denyList[5] = "PC1";
+    program.allowList[0] = "OK";
+    program.allowList[3] = "PC1";
+    net.steadySessions = FakeNetApi::Sessions({Session("PC1", "u")});
+    guard.Run("S");
+    ASSERT_EQ(Rows().size(), 2u);
+    EXPECT_NE(Rows()[1].find("アクセス拒否違反"), std::string::npos);
+    EXPECT_EQ(host.disconnectList.RowCount(), 1u);
+}
+
+TEST_F(SessionGuardTest, MoreThanOneHundredSessionsRaiseTheSubscriptError) {
+    std::vector<platform::SessionInfo> many;
+    for (int i = 0; i < 101; ++i) many.push_back(Session("PC" + std::to_string(i), "u"));
+    net.steadySessions = FakeNetApi::Sessions(many);
+    EXPECT_THROW(guard.Run("S"), base::RuntimeError);
+    many.pop_back();
+    net.steadySessions = FakeNetApi::Sessions(many);
+    EXPECT_EQ(guard.Run("S"), 100);
+}
+
+TEST_F(SessionGuardTest, Timer2DisconnectsEveryMarkedClientAgainAndAgain) {
+    host.disconnectList.AddRow({"eve", "BAD"});
+    host.disconnectList.AddRow({"x", ""});  // no client name: skipped
+    host.disconnectList.AddRow({"bob", "OTHER"});
+    guard.DisconnectMarked();
+    guard.DisconnectMarked();
+    EXPECT_EQ(net.deleted, (std::vector<std::string>{"BAD/eve", "OTHER/bob", "BAD/eve", "OTHER/bob"}));
+}
+
+TEST_F(SessionGuardTest, OpenFilesAreLoggedAcrossBatchesAndAFailureLogsNothing) {
+    net.fileAnswers = {{platform::kErrorMoreData, {{"C:\\share\\a.doc", "taro"}}},
+                       {platform::kNerrSuccess, {{"C:\\share\\b.xls", "hana"}}}};
+    guard.LogOpenFiles();
+    EXPECT_EQ(Rows(), (std::vector<std::string>{"[2005/06/22 09:05:03]  使用中のファイル : C:\\share\\a.doc USER : taro",
+                                                "[2005/06/22 09:05:03]  使用中のファイル : C:\\share\\b.xls USER : hana"}));
+    net.fileAnswers = {{platform::kErrorMoreData, {{"C:\\x", "u"}}}, {50, {}}};
+    guard.LogOpenFiles();
+    EXPECT_EQ(Rows().size(), 2u);
+    guard.LogOpenFiles();  // no files open: no rows
+    EXPECT_EQ(Rows().size(), 2u);
+}
+
+TEST_F(SessionGuardTest, MainMonitorPastTenThousandRowsIsSavedAndStartedAfresh) {
+    for (int i = 0; i < 9999; ++i) host.mainMonitor.AddRow({"row"});
+    net.fileAnswers = {{platform::kNerrSuccess, {{"C:\\f", "u"}}}};
+    guard.LogOpenFiles();  // exactly 10000 rows: kept
+    EXPECT_TRUE(host.savedRowCounts.empty());
+    EXPECT_EQ(host.mainMonitor.RowCount(), 10000u);
+
+    net.fileAnswers = {{platform::kNerrSuccess, {{"C:\\f", "u"}}}};
+    guard.LogOpenFiles();
+    EXPECT_EQ(host.savedRowCounts, std::vector<std::size_t>{10001});
+    EXPECT_EQ(Rows(), (std::vector<std::string>{base::kBanner, "[2005/06/22 09:05:03]  ログを自動保存しました。"}));
+}
+
+}  // namespace
+}  // namespace app
