@@ -1,0 +1,80 @@
+#include "platform/win32/net_api.h"
+
+#include <windows.h>
+#include <lm.h>
+
+#include "base/win32/wide.h"
+
+namespace platform::win32 {
+namespace {
+
+// Owns a buffer the network-management functions allocated.
+class NetApiBuffer {
+public:
+    NetApiBuffer() = default;
+    ~NetApiBuffer() {
+        if (m_buffer) NetApiBufferFree(m_buffer);
+    }
+    NetApiBuffer(const NetApiBuffer&) = delete;
+    NetApiBuffer& operator=(const NetApiBuffer&) = delete;
+    LPBYTE* Out() { return &m_buffer; }
+    template <typename T>
+    const T* As() const {
+        return reinterpret_cast<const T*>(m_buffer);
+    }
+
+private:
+    LPBYTE m_buffer = nullptr;
+};
+
+std::string Text(LPCWSTR text) { return text ? base::Narrow(text) : std::string(); }
+
+bool Answered(NET_API_STATUS status) { return status == NERR_Success || status == ERROR_MORE_DATA; }
+
+}  // namespace
+
+SessionBatch NetApi::EnumSessions(const std::string& server, std::uint32_t& resume) {
+    std::wstring name = base::Widen(server);
+    NetApiBuffer buffer;
+    // Some systems answer without writing the counts: start them at 0 so the caller's loop ends.
+    DWORD read = 0, total = 0, resumeHandle = resume;
+    SessionBatch batch;
+    batch.status = NetSessionEnum(name.empty() ? nullptr : name.data(), nullptr, nullptr, 2, buffer.Out(),
+                                  MAX_PREFERRED_LENGTH, &read, &total, &resumeHandle);
+    resume = resumeHandle;
+    batch.entriesRead = read;
+    batch.totalEntries = total;
+    if (Answered(batch.status) && buffer.As<SESSION_INFO_2>()) {
+        const auto* records = buffer.As<SESSION_INFO_2>();
+        for (DWORD i = 0; i < read; ++i) {
+            batch.records.push_back(
+                {Text(records[i].sesi2_cname), Text(records[i].sesi2_username), Text(records[i].sesi2_cltype_name)});
+        }
+    }
+    return batch;
+}
+
+std::uint32_t NetApi::DeleteSession(const std::string& clientName, const std::string& userName) {
+    std::wstring client = L"\\\\" + base::Widen(clientName);
+    std::wstring user = base::Widen(userName);
+    return NetSessionDel(nullptr, client.data(), user.empty() ? nullptr : user.data());
+}
+
+FileBatch NetApi::EnumOpenFiles(std::uintptr_t& resume) {
+    NetApiBuffer buffer;
+    DWORD read = 0, total = 0;
+    DWORD_PTR resumeHandle = resume;
+    FileBatch batch;
+    batch.status = NetFileEnum(nullptr, nullptr, nullptr, 3, buffer.Out(), MAX_PREFERRED_LENGTH, &read, &total,
+                               &resumeHandle);
+    resume = resumeHandle;
+    if (Answered(batch.status) && buffer.As<FILE_INFO_3>()) {
+        const auto* records = buffer.As<FILE_INFO_3>();
+        for (DWORD i = 0; i < read; ++i) {
+            batch.records.push_back({Text(records[i].fi3_pathname), Text(records[i].fi3_username)});
+        }
+    }
+    return batch;
+}
+
+}  // namespace platform::win32
