@@ -21,9 +21,10 @@ E2E_TIMEOUT=${E2E_TIMEOUT:-120} # seconds for the whole scenario
 
 source "$E2E_SOURCE/tests/win/wine-common.sh"
 
-# The main window's caption, from the one constant the program uses for it.
+# The product name and the main window's caption, from the constants the program uses for them.
+E2E_PRODUCT=$(sed -n 's/.*kProductName = "\(.*\)";.*/\1/p' "$E2E_SOURCE/src/base/product.h")
 E2E_BANNER=$(sed -n 's/.*kBanner = "\(.*\)";.*/\1/p' "$E2E_SOURCE/src/base/product.h")
-[[ -n $E2E_BANNER ]] || lookout_die "cannot read the banner from src/base/product.h"
+[[ -n $E2E_PRODUCT && -n $E2E_BANNER ]] || lookout_die "cannot read the names from src/base/product.h"
 
 e2e_log() { printf '[%s %s] %s\n' "$E2E_NAME" "$(date +%T.%3N)" "$*" >&2; }
 
@@ -38,11 +39,12 @@ fail() {
 
 e2e_cleanup() {
     local status=$?
-    trap - EXIT INT TERM
+    trap - EXIT INT TERM USR1
+    set +e # every step below must run
     if [[ -n ${e2e_watchdog_pid:-} ]]; then
-        pkill -P "$e2e_watchdog_pid" 2>/dev/null
-        kill "$e2e_watchdog_pid" 2>/dev/null
-    fi
+        pkill -P "$e2e_watchdog_pid" # its sleep; the watchdog then ends without firing
+        kill "$e2e_watchdog_pid"
+    fi 2>/dev/null
     if [[ $status -ne 0 && -n ${DISPLAY:-} && -n ${lookout_xvfb_pid:-} ]]; then
         import -window root "$E2E_WORK/failure.png" 2>/dev/null &&
             echo "screenshot at failure: $E2E_WORK/failure.png" >&2
@@ -68,8 +70,9 @@ e2e_begin() {
     SECONDS=0
     trap e2e_cleanup EXIT
     trap 'fail "interrupted"' INT TERM
+    trap 'fail "timed out after $E2E_TIMEOUT s"' USR1
     # A guard against a hung scenario; it ends the scenario through the same cleanup.
-    (sleep "$E2E_TIMEOUT" && kill -TERM $$ 2>/dev/null) >/dev/null 2>&1 &
+    (sleep "$E2E_TIMEOUT" && kill -USR1 $$ 2>/dev/null) >/dev/null 2>&1 &
     e2e_watchdog_pid=$!
 
     [[ -f $E2E_EXE ]] || fail "the program is not built: $E2E_EXE"
@@ -117,6 +120,50 @@ e2e_program_running() { kill -0 "$e2e_program_job" 2>/dev/null; }
 e2e_end_windows_session() {
     timeout 30 wine wineboot -e >/dev/null 2>&1 || fail "wineboot -e did not finish"
 }
+
+# The visual-styles manifest the program writes beside itself on its first start: its lines joined
+# by CR LF, none after the last; the processor architecture is the one of the executable, the
+# description its version information's Comments entry (empty without one).
+e2e_manifest_text() { # [DESCRIPTION]
+    local header machine architecture
+    header=$(od -An -tu4 -j60 -N4 "$E2E_EXE" | tr -d ' ')
+    machine=$(od -An -tx2 -j$((header + 4)) -N2 "$E2E_EXE" | tr -d ' ')
+    case $machine in
+        8664) architecture=amd64 ;;
+        014c) architecture=x86 ;;
+        *) fail "unexpected machine type $machine in $E2E_EXE" ;;
+    esac
+    local description=${1-$(sed -n 's/.*VALUE "Comments", "\(.*\)".*/\1/p' "$E2E_SOURCE/resources/veskar_lookout.rc")}
+    local lines=(
+        '<?xml version="1.0" encoding="UTF-8" standalone="yes"?>'
+        '<assembly xmlns="urn:schemas-microsoft-com:asm.v1" manifestVersion="1.0">'
+        '<assemblyIdentity'
+        "  name=\"$E2E_PROCESS\""
+        "  processorArchitecture=\"$architecture\""
+        '  version="1.0.0.0"'
+        '  type="win32"/>'
+        "<description>$description</description>"
+        '<dependency>'
+        '  <dependentAssembly>'
+        '    <assemblyIdentity'
+        '      type="win32"'
+        '      name="Microsoft.Windows.Common-Controls"'
+        '      version="6.0.0.0"'
+        "      processorArchitecture=\"$architecture\""
+        '      publicKeyToken="6595b64144ccf1df"'
+        '      language="*"'
+        '    />'
+        '  </dependentAssembly>'
+        '</dependency>'
+        '</assembly>'
+    )
+    local text=${lines[0]} line
+    for line in "${lines[@]:1}"; do text+=$'\r\n'$line; done
+    printf '%s' "$text"
+}
+
+# The manifest's file name: the executable's name without extension, then ".exe.MANIFEST".
+E2E_MANIFEST=${E2E_PROCESS%.*}.exe.MANIFEST
 
 # ---------------------------------------------------------------------------------------------
 # Driver

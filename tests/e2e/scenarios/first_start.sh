@@ -1,0 +1,40 @@
+#!/usr/bin/env bash
+# First start in an empty program folder: the first process writes only the visual-styles manifest
+# and starts the program again; the restarted process creates the settings file and both PC lists
+# with their defaults and runs on with its main window hidden (open=0).
+source "$(dirname "$0")/../lib.sh"
+e2e_begin
+
+e2e_start
+e2e_wait_program_end 30 "the first process (it should start the program again and end)"
+# The first process ends before it creates any window: the window belongs to the restarted copy.
+drive wait --process "$E2E_PROCESS" --title "$E2E_BANNER" --timeout 20000 >/dev/null
+processes=$(drive processes --process "$E2E_PROCESS")
+[[ $(wc -l <<<"$processes") -eq 1 ]] || fail "exactly one running copy expected after the restart, found:
+$processes"
+
+assert_file_bytes "$E2E_MANIFEST" "$(e2e_manifest_text)"
+e2e_wait_file setting.ini 10
+assert_file_bytes setting.ini $'[main]\r\ntime=10\r\nopen=0\r\nstart=1\r\npacket=1\r\nbeep=0\r\nlogflag=1\r\nbackcolor=16777215\r\nfontcolor=0\r\nwindow=1\r\nnc=\r\nfront=0\r\napp=0\r\n'
+e2e_wait_file pcset.ini 10
+e2e_wait_file pcset2.ini 10
+assert_file_bytes pcset.ini $'"NG"\r\n'
+assert_file_bytes pcset2.ini $'"NG"\r\n'
+assert_program_files "$E2E_PROCESS" veskarneton.ico veskarnetoff.ico "$E2E_MANIFEST" setting.ini pcset.ini pcset2.ini
+
+window=$(drive window --title "$E2E_BANNER")
+assert_line "$window" $'visible\t0' "the main window starts hidden when open=0"
+
+# The banner is also the first row of the main monitor, and the status bar names the user.
+first_rows=""
+for nth in 0 1 2 3 4 5 6 7; do
+    drive_status listview-rows --title "$E2E_BANNER" --nth "$nth" >"$E2E_WORK/rows.txt" || break
+    first_rows+=$(head -n 1 "$E2E_WORK/rows.txt" | cut -f1)$'\n'
+done
+assert_line "$first_rows" "$E2E_BANNER" "first row of the main monitor list"
+status=$(drive status --title "$E2E_BANNER")
+grep -q $'^2\tユーザ : .' <<<"$status" || fail "panel 3 of the status bar should name the user, panels are:
+$status"
+
+drive show --title "$E2E_BANNER"
+e2e_screenshot first_start
