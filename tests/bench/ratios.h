@@ -1,0 +1,18 @@
+#pragma once
+// Benchmarks are judged by ratios of two of their timings, printed after the run: a ratio
+// names its numerator and denominator benchmarks and the most it may reach.
+#include <string>
+
+namespace bench {
+
+struct Ratio {
+    std::string title;
+    std::string numerator;    // full benchmark names, as Google Benchmark prints them
+    std::string denominator;
+    double limit;  // 0: printed for information only
+};
+
+// Registers a ratio; returns true so that it can initialise a static.
+bool AddRatio(Ratio ratio);
+
+}  // namespace bench

@@ -1,0 +1,54 @@
+#include "logs/ansi_encoder.h"
+
+#include <gtest/gtest.h>
+
+#include "base/text_encoding.h"
+
+namespace logs {
+namespace {
+
+std::string Encoded(AnsiEncoder& encoder, std::string_view text) {
+    std::string out = "prefix:";
+    encoder.Append(text, out);
+    return out.substr(7);
+}
+
+// The encoder must give exactly the bytes of the program's own conversion, whatever the mix
+// of ASCII runs (shorter and longer than eight bytes) and other characters.
+TEST(AnsiEncoder, GivesTheSameBytesAsTheProgramsConversion) {
+    const std::string texts[] = {
+        "",
+        "a",
+        "plain ASCII text that is longer than eight bytes\t\r\n",
+        "[2005/06/22 09:05:03]  送信 : 1,235 KB  受信 : 3 KB",
+        "使用中のファイル : C:\\共有\\資料.xls USER : 田中",
+        "ｶﾀｶﾅ半角と全角カタカナ、記号「」・。",
+        "§°±×÷ΑΩαωАЯ",                     // two-byte UTF-8 characters that code page 932 has
+        "€ é ü 한국어 😀 end",              // characters it lacks: the conversion's replacement
+        "1234567ア",                        // a character right after an eight-byte boundary
+        "－〜∥￢",                           // characters whose mapping differs between tables
+    };
+    AnsiEncoder encoder;
+    for (int pass = 0; pass < 2; ++pass) {  // the second pass reads remembered characters
+        for (const auto& text : texts) EXPECT_EQ(Encoded(encoder, text), base::Utf8ToAnsi(text)) << text;
+    }
+}
+
+TEST(AnsiEncoder, MalformedInputIsLeftToTheProgramsConversion) {
+    AnsiEncoder encoder;
+    for (const std::string& text : {std::string("ab\xE3\x81"), std::string("\xC3"), std::string("x\x80y"),
+                                   std::string("\xED\xA0\x80 surrogate")}) {
+        EXPECT_EQ(Encoded(encoder, text), base::Utf8ToAnsi(text));
+    }
+}
+
+TEST(AnsiEncoder, AppendsAfterWhatIsThere) {
+    AnsiEncoder encoder;
+    std::string out = "A\t";
+    encoder.Append("プロセス", out);
+    encoder.Append("\tB", out);
+    EXPECT_EQ(out, "A\t\x83\x76\x83\x8D\x83\x5A\x83\x58\tB");
+}
+
+}  // namespace
+}  // namespace logs

@@ -1,0 +1,89 @@
+#include "logs/log_names.h"
+
+#include <gtest/gtest.h>
+
+#include "base/runtime_error.h"
+#include "fakes/fake_file_system.h"
+
+namespace logs {
+namespace {
+
+const base::LocalTime kDay{2005, 6, 22, 23, 59, 58};
+const std::string kFolder = "C:\\Lookout\\logs\\";
+
+TEST(LogNames, EveryFamilyIsNamedByKindAndDate) {
+    EXPECT_EQ(LogsFolder("C:\\Lookout\\"), "C:\\Lookout\\logs");
+    EXPECT_EQ(AppendSaveBase(LogKind::Process, kDay), "process_log_20050622");
+    EXPECT_EQ(TemporaryFileName(LogKind::Startup, kDay), "startup_tmplog_20050622.txt");
+    EXPECT_EQ(AutomaticBase(LogKind::Application, kDay), "application20050622");
+    EXPECT_EQ(MainMonitorFileName(kDay, 12), "20050622-12.txt");
+    // The automatic log and the append-save of one tab are different files on purpose.
+    EXPECT_NE(AutomaticBase(LogKind::Application, kDay), AppendSaveBase(LogKind::Application, kDay));
+
+    const char* words[] = {"process", "application", "startup", "netstat", "mynetwork"};
+    for (std::size_t i = 0; i < kLogKinds.size(); ++i) {
+        EXPECT_EQ(KindWord(kLogKinds[i]), words[i]);
+        EXPECT_EQ(AppendSaveBase(kLogKinds[i], base::LocalTime{2024, 1, 2}), std::string(words[i]) + "_log_20240102");
+    }
+}
+
+class Rollover : public ::testing::Test {
+protected:
+    std::string Next() { return RolloverPath(files, kFolder, "process_log_20050622"); }
+    void PutSized(const std::string& name, std::size_t size) { files.Put(kFolder + name, std::string(size, 'x')); }
+
+    fakes::FakeFileSystem files;
+};
+
+TEST_F(Rollover, TheFirstFileIsUsedUpToAndIncludingTheLimit) {
+    EXPECT_EQ(Next(), kFolder + "process_log_20050622.txt");
+    PutSized("process_log_20050622.txt", 512000);
+    EXPECT_EQ(Next(), kFolder + "process_log_20050622.txt");
+    PutSized("process_log_20050622.txt", 512001);
+    EXPECT_EQ(Next(), kFolder + "process_log_20050622_1.txt");
+}
+
+TEST_F(Rollover, TheFirstGapOrSmallFileOfTheSeriesWins) {
+    PutSized("process_log_20050622.txt", 600000);
+    PutSized("process_log_20050622_2.txt", 10);
+    EXPECT_EQ(Next(), kFolder + "process_log_20050622_1.txt");  // _1 is absent, even though _2 exists
+
+    PutSized("process_log_20050622_1.txt", 512000);
+    EXPECT_EQ(Next(), kFolder + "process_log_20050622_1.txt");
+    PutSized("process_log_20050622_1.txt", 512001);
+    EXPECT_EQ(Next(), kFolder + "process_log_20050622_2.txt");
+    PutSized("process_log_20050622_2.txt", 700000);
+    EXPECT_EQ(Next(), kFolder + "process_log_20050622_3.txt");
+}
+
+// Every file of the series exists and is full.
+class FullSeries : public fakes::FakeFileSystem {
+public:
+    bool FileExists(const std::string&) override { return true; }
+    std::optional<std::uint64_t> FileSize(const std::string&) override { return kRolloverLimit + 1; }
+};
+
+TEST(RolloverCounter, PassingSixteenBitsRaisesOverflow) {
+    FullSeries files;
+    try {
+        RolloverPath(files, kFolder, "process_log_20050622");
+        FAIL() << "no overflow";
+    } catch (const base::RuntimeError& error) {
+        EXPECT_EQ(error.Number(), base::RuntimeErrorNumber::Overflow);
+    }
+}
+
+TEST(MainMonitorNumber, TheLowestFreeNumberFromOne) {
+    fakes::FakeFileSystem files;
+    EXPECT_EQ(NextMainMonitorPath(files, kFolder, kDay), kFolder + "20050622-1.txt");
+    files.Put(kFolder + "20050622-1.txt", "");
+    files.Put(kFolder + "20050622-2.txt", "");
+    EXPECT_EQ(NextMainMonitorPath(files, kFolder, kDay), kFolder + "20050622-3.txt");
+    // Another day's files and gaps further up do not count.
+    files.Put(kFolder + "20050621-3.txt", "");
+    files.Put(kFolder + "20050622-5.txt", "");
+    EXPECT_EQ(NextMainMonitorPath(files, kFolder, kDay), kFolder + "20050622-3.txt");
+}
+
+}  // namespace
+}  // namespace logs

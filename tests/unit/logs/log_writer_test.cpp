@@ -1,0 +1,201 @@
+#include "logs/log_writer.h"
+
+#include <gtest/gtest.h>
+
+#include "base/text_encoding.h"
+#include "fakes/fake_clock.h"
+#include "fakes/fake_dialogs.h"
+#include "fakes/fake_file_system.h"
+#include "fakes/fake_message_pump.h"
+
+namespace logs {
+namespace {
+
+const std::string kProgram = "C:\\Lookout\\";
+const std::string kLogs = "C:\\Lookout\\logs\\";
+
+class LogWriterTest : public ::testing::Test {
+protected:
+    LogWriterTest() { files.folders.insert("C:\\Lookout"); }
+
+    ListRows Process() { return {table, 4}; }
+    std::string File(const std::string& name) { return base::AnsiToUtf8(files.Get(kLogs + name)); }
+
+    fakes::FakeFileSystem files;
+    fakes::FakeClock clock;  // 2005/06/22 09:05:03
+    fakes::FakeMessagePump pump;
+    fakes::FakeDialogs dialogs;
+    std::string folder = kProgram;
+    LogWriter writer{folder, {files, clock, pump}};
+    base::TableModel table;
+};
+
+TEST_F(LogWriterTest, ListLinesAreStampThenEveryColumnTabSeparated) {
+    table.AddRow({"explorer.exe", "1234", "5,120 KB", "C:\\WINDOWS\\explorer.exe"});
+    table.AddRow({"System", "", "", ""});
+    table.AddRow({"短い"});  // fewer cells than columns: the missing ones are empty fields
+    writer.AppendSave(LogKind::Process, Process());
+
+    EXPECT_TRUE(files.FolderExists("C:\\Lookout\\logs"));
+    EXPECT_EQ(File("process_log_20050622.txt"),
+              "2005/06/22 09:05:03\texplorer.exe\t1234\t5,120 KB\tC:\\WINDOWS\\explorer.exe\r\n"
+              "2005/06/22 09:05:03\tSystem\t\t\t\r\n"
+              "2005/06/22 09:05:03\t短い\t\t\t\r\n");
+    // On disk the text is code page 932.
+    EXPECT_NE(files.Get(kLogs + "process_log_20050622.txt").find("\x92\x5A\x82\xA2"), std::string::npos);
+    EXPECT_EQ(pump.calls, 3);  // one pump after every line
+}
+
+TEST_F(LogWriterTest, TheStampIsTakenOncePerSave) {
+    for (int i = 0; i < 3; ++i) table.AddRow({"p" + std::to_string(i)});
+    pump.onPump = [&] { clock.now.second += 1; };
+    writer.TemporarySave(LogKind::Startup, {table, 3});
+    EXPECT_EQ(File("startup_tmplog_20050622.txt"),
+              "2005/06/22 09:05:03\tp0\t\t\r\n"
+              "2005/06/22 09:05:03\tp1\t\t\r\n"
+              "2005/06/22 09:05:03\tp2\t\t\r\n");
+}
+
+TEST_F(LogWriterTest, AppendSaveAddsAndTemporarySaveReplaces) {
+    table.AddRow({"a"});
+    writer.AppendSave(LogKind::Netstat, {table, 6});
+    writer.TemporarySave(LogKind::Netstat, {table, 6});
+    table.Clear();
+    table.AddRow({"b"});
+    writer.AppendSave(LogKind::Netstat, {table, 6});
+    writer.TemporarySave(LogKind::Netstat, {table, 6});
+
+    EXPECT_EQ(File("netstat_log_20050622.txt"),
+              "2005/06/22 09:05:03\ta\t\t\t\t\t\r\n2005/06/22 09:05:03\tb\t\t\t\t\t\r\n");
+    EXPECT_EQ(File("netstat_tmplog_20050622.txt"), "2005/06/22 09:05:03\tb\t\t\t\t\t\r\n");
+}
+
+TEST_F(LogWriterTest, AppendSaveRollsOverPastTheLimit) {
+    table.AddRow({"row"});
+    files.Put(kLogs + "mynetwork_log_20050622.txt", std::string(512000, 'x'));
+    writer.AppendSave(LogKind::MyNetwork, {table, 4});
+    EXPECT_EQ(files.Get(kLogs + "mynetwork_log_20050622.txt").size(), 512000u + 28u);
+    EXPECT_FALSE(files.Has(kLogs + "mynetwork_log_20050622_1.txt"));
+
+    writer.AppendSave(LogKind::MyNetwork, {table, 4});
+    EXPECT_EQ(File("mynetwork_log_20050622_1.txt"), "2005/06/22 09:05:03\trow\t\t\t\r\n");
+}
+
+TEST_F(LogWriterTest, AnEmptyListStillCreatesTheFile) {
+    writer.AppendSave(LogKind::Application, {table, 5});
+    EXPECT_TRUE(files.Has(kLogs + "application_log_20050622.txt"));
+    EXPECT_EQ(File("application_log_20050622.txt"), "");
+    EXPECT_EQ(pump.calls, 0);
+}
+
+TEST_F(LogWriterTest, AutomaticLogWritesOnlyWhenSwitchedOn) {
+    table.AddRow({"app.exe", "10", "80", "TCP", "C:\\app.exe"});
+    writer.AutomaticLog(LogKind::Application, {table, 5}, false);
+    EXPECT_FALSE(files.FolderExists("C:\\Lookout\\logs"));
+    EXPECT_EQ(files.opens, 0);
+
+    writer.AutomaticLog(LogKind::Application, {table, 5}, true);
+    EXPECT_EQ(File("application20050622.txt"), "2005/06/22 09:05:03\tapp.exe\t10\t80\tTCP\tC:\\app.exe\r\n");
+    EXPECT_FALSE(files.Has(kLogs + "application_log_20050622.txt"));
+
+    files.Put(kLogs + "application20050622.txt", std::string(512001, 'x'));
+    writer.AutomaticLog(LogKind::Application, {table, 5}, true);
+    EXPECT_TRUE(files.Has(kLogs + "application20050622_1.txt"));
+}
+
+TEST_F(LogWriterTest, ASaveToleratesTheListChangingWhileItPumps) {
+    for (int i = 0; i < 5; ++i) table.AddRow({"old" + std::to_string(i)});
+    // After the second line a refresh rebuilds the list with three rows.
+    pump.onPump = [&] {
+        if (pump.calls != 2) return;
+        table.Clear();
+        for (int i = 0; i < 3; ++i) table.AddRow({"new" + std::to_string(i)});
+    };
+    writer.TemporarySave(LogKind::Process, Process());
+    EXPECT_EQ(File("process_tmplog_20050622.txt"),
+              "2005/06/22 09:05:03\told0\t\t\t\r\n"
+              "2005/06/22 09:05:03\told1\t\t\t\r\n"
+              "2005/06/22 09:05:03\tnew2\t\t\t\r\n");
+
+    // A list emptied during the save ends it.
+    pump.calls = 0;
+    pump.onPump = [&] { table.Clear(); };
+    writer.TemporarySave(LogKind::Process, Process());
+    EXPECT_EQ(File("process_tmplog_20050622.txt"), "2005/06/22 09:05:03\tnew0\t\t\t\r\n");
+}
+
+TEST_F(LogWriterTest, FailuresArePassedOverSilently) {
+    table.AddRow({"x"});
+    files.failFolderCreation = true;
+    files.unwritable.insert("C:\\Lookout\\logs\\process_log_20050622.txt");
+    writer.AppendSave(LogKind::Process, Process());  // neither folder nor file: nothing, no throw
+    EXPECT_FALSE(files.Has(kLogs + "process_log_20050622.txt"));
+    EXPECT_EQ(pump.calls, 1);  // the writer still went through the list
+    writer.TemporarySave(LogKind::Process, Process());  // the next step goes on regardless
+    EXPECT_TRUE(files.Has(kLogs + "process_tmplog_20050622.txt"));
+}
+
+TEST_F(LogWriterTest, ALargeListIsWrittenWhole) {
+    std::string expected;
+    for (int i = 0; i < 20000; ++i) {
+        table.AddRow({"[2005/06/22 09:05:03]  使用中のファイル : C:\\share\\" + std::to_string(i)});
+        expected += table.Cell(i, 0) + "\r\n";
+    }
+    writer.SaveMainMonitor(table);
+    EXPECT_EQ(File("20050622-1.txt"), expected);
+    EXPECT_EQ(pump.calls, 20000);
+}
+
+TEST_F(LogWriterTest, MainMonitorGoesToTheNextFreeNumber) {
+    table.AddRow({"Veskar_Lookout v1.01"});
+    table.AddRow({"[2005/06/22 09:05:03]  監視を開始しました。"});
+    files.Put(kLogs + "20050622-1.txt", "old");
+    files.Put(kLogs + "20050622-2.txt", "old");
+    writer.SaveMainMonitor(table);
+    EXPECT_EQ(File("20050622-3.txt"), "Veskar_Lookout v1.01\r\n[2005/06/22 09:05:03]  監視を開始しました。\r\n");
+    writer.SaveMainMonitor(table);
+    EXPECT_TRUE(files.Has(kLogs + "20050622-4.txt"));
+    EXPECT_EQ(files.Get(kLogs + "20050622-1.txt"), "old");
+}
+
+TEST_F(LogWriterTest, SaveAsProposesTheNextFileAndAppendsTxtCaseSensitively) {
+    table.AddRow({"line"});
+    files.Put(kLogs + "20050622-1.txt", "");
+    dialogs.saveAnswer = "D:\\mylog";
+    writer.SaveMainMonitorAs(table, dialogs);
+
+    ASSERT_EQ(dialogs.saveRequests.size(), 1u);
+    EXPECT_EQ(dialogs.saveRequests[0].filter, "(*.txt)|*txt|");
+    EXPECT_EQ(dialogs.saveRequests[0].initialFolder, "C:\\Lookout\\logs");
+    EXPECT_EQ(dialogs.saveRequests[0].fileName, kLogs + "20050622-2.txt");
+    EXPECT_EQ(files.Get("D:\\mylog.txt"), "line\r\n");
+
+    dialogs.saveAnswer = "D:\\mylog.TXT";
+    writer.SaveMainMonitorAs(table, dialogs);
+    EXPECT_TRUE(files.Has("D:\\mylog.TXT.txt"));
+
+    dialogs.saveAnswer = "D:\\kept.txt";
+    writer.SaveMainMonitorAs(table, dialogs);
+    EXPECT_TRUE(files.Has("D:\\kept.txt"));
+    EXPECT_FALSE(files.Has("D:\\kept.txt.txt"));
+}
+
+TEST_F(LogWriterTest, CancellingSaveAsWritesNothing) {
+    table.AddRow({"line"});
+    dialogs.saveAnswer.reset();
+    writer.SaveMainMonitorAs(table, dialogs);
+    dialogs.saveAnswer = "";
+    writer.SaveMainMonitorAs(table, dialogs);
+    EXPECT_EQ(dialogs.saveRequests.size(), 2u);
+    EXPECT_EQ(files.opens, 0);
+}
+
+TEST_F(LogWriterTest, TheProgramFolderIsReadAtEachSave) {
+    table.AddRow({"x"});
+    folder = "E:\\Other\\";
+    writer.SaveMainMonitor(table);
+    EXPECT_TRUE(files.Has("E:\\Other\\logs\\20050622-1.txt"));
+}
+
+}  // namespace
+}  // namespace logs
