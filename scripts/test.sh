@@ -1,0 +1,60 @@
+#!/usr/bin/env bash
+# The project's test command (CI runs it through .ci/run):
+#   1. native: portable code and unit tests, with address and undefined-behaviour sanitizers
+#   2. windows-x64: platform tests and end-to-end scenarios under Wine on a headless screen
+#   3. windows-x86: must compile and link (Wine here cannot run 32-bit programs)
+#   4. bench: optimised benchmarks; each program prints its ratios and fails when one is over its limit
+# Stops at the first failure with a non-zero exit.
+#
+# LOOKOUT_BUILD_ROOT (default build) holds the four build folders; give each developer sharing a
+# working tree their own. LOOKOUT_JOBS sets the build parallelism (default: all cores).
+set -Eeuo pipefail
+cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."
+
+root=${LOOKOUT_BUILD_ROOT:-build}
+jobs=${LOOKOUT_JOBS:-$(nproc)}
+started=$SECONDS
+current="setup"
+trap 'echo "test.sh: FAILED during: $current ($((SECONDS - started)) s)" >&2' ERR
+
+step() {
+    current=$*
+    echo
+    echo "=== $* ($((SECONDS - started)) s)"
+}
+
+configure_and_build() { # PRESET
+    cmake --preset "$1" -B "$root/$1" >/dev/null
+    cmake --build "$root/$1" -j "$jobs"
+}
+
+step "setup"
+bash scripts/setup.sh
+
+step "native: build"
+configure_and_build native
+step "native: unit tests"
+ctest --test-dir "$root/native" --output-on-failure -j "$jobs"
+
+step "windows-x64: build"
+configure_and_build windows-x64
+step "windows-x64: platform and end-to-end tests under Wine"
+ctest --test-dir "$root/windows-x64" --output-on-failure -j "$jobs"
+
+step "windows-x86: build (compile and link only)"
+configure_and_build windows-x86
+
+step "bench: build"
+configure_and_build bench
+step "bench: run"
+mapfile -t benchmarks < <(find "$root/bench" -path "$root/bench/googletest" -prune -o \
+    -type f -executable -name '*bench*' -print | sort)
+for program in "${benchmarks[@]}"; do
+    echo "--- $program"
+    "$program"
+done
+[[ ${#benchmarks[@]} -gt 0 ]] || echo "(no benchmark programs built)"
+
+trap - ERR
+echo
+echo "test.sh: PASSED: native unit tests, Windows x64 platform and end-to-end tests, Windows x86 build, ${#benchmarks[@]} benchmark program(s) in $((SECONDS - started)) s"
