@@ -1,0 +1,13 @@
+#pragma once
+#include "platform/iphelper.h"
+
+namespace platform::win32 {
+
+class IpHelper : public IIpHelper {
+public:
+    std::vector<InterfaceRow> InterfaceTable() override;
+    std::optional<InterfaceRow> InterfaceEntry(std::uint32_t index) override;
+    ArpReply SendArp(std::uint32_t destination) override;
+};
+
+}  // namespace platform::win32
