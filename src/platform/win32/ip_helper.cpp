@@ -13,9 +13,12 @@ namespace platform::win32 {
 namespace {
 
 InterfaceRow Row(const MIB_IFROW& row) {
-    // bDescr is ANSI text of the stated length, not necessarily null-terminated.
+    // bDescr is ANSI text of the stated length; Windows counts a terminating null in that
+    // length and Wine does not, so the text also ends at a null inside it.
     const std::size_t length = std::min<std::size_t>(row.dwDescrLen, MAXLEN_IFDESCR);
-    return {row.dwIndex, base::AnsiToUtf8(std::string_view(reinterpret_cast<const char*>(row.bDescr), length)),
+    std::string_view text(reinterpret_cast<const char*>(row.bDescr), length);
+    text = text.substr(0, text.find('\0'));
+    return {row.dwIndex, base::AnsiToUtf8(text),
             row.dwInOctets, row.dwOutOctets};
 }
 
