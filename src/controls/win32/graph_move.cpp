@@ -6,6 +6,7 @@
 #include "base/win32/colour.h"
 #include "base/win32/fatal_error.h"
 #include "base/win32/wide.h"
+#include "controls/win32/drawing.h"
 #include "controls/win32/screen.h"
 
 namespace controls {
@@ -194,10 +195,7 @@ void GraphMove::Paint(HDC target, const RECT& client) const {
         }
         const PixelPoint from = m_model.ToPixels(line.x1, line.y1);
         const PixelPoint to = m_model.ToPixels(line.x2, line.y2);
-        MoveToEx(memory.Get(), from.x, from.y, nullptr);
-        LineTo(memory.Get(), to.x, to.y);
-        // LineTo leaves the end point out; a line drawn to the right or bottom edge must reach it.
-        SetPixelV(memory.Get(), to.x, to.y, base::ToColorRef(penColour));
+        DrawLine(memory.Get(), from.x, from.y, to.x, to.y, base::ToColorRef(penColour));
     }
     selectPen.reset();
     BitBlt(target, 0, 0, width, height, memory.Get(), 0, 0, SRCCOPY);

@@ -1,0 +1,78 @@
+#pragma once
+// An alert window that records what the model asks of it, and a factory that makes alerts
+// on such windows, so an alert's whole life runs in a test.
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "controls/alert_factory.h"
+#include "controls/alert_model.h"
+
+namespace controls::testing {
+
+// A 1280 x 1024 screen of 15 twips per pixel with a 30-pixel taskbar at the bottom.
+inline AlertScreen StandardScreen() { return {1280, 994, 1024, {15, 15}}; }
+
+class RecordingAlertSurface : public IAlertSurface {
+public:
+    explicit RecordingAlertSurface(AlertScreen screen = StandardScreen()) : screen(screen) {}
+
+    AlertScreen Screen() override { return screen; }
+    void Move(const FormPlacement& twips) override { moves.push_back(twips); }
+    void SetLabel(const PixelRect& bounds, const std::string& caption) override {
+        labelBounds = bounds;
+        labelCaption = caption;
+    }
+    void Paint(const AlertPicture& painted) override { picture = painted; }
+    void SetRegion(const RoundRegion& clip) override { region = clip; }
+    void SetAlpha(std::uint8_t alpha) override { alphas.push_back(alpha); }
+    void SetTopmost(bool on) override { topmost.push_back(on); }
+    void StartTimer() override { ++timerStarts; }
+    void Unload() override { ++unloads; }
+
+    AlertScreen screen;
+    std::vector<FormPlacement> moves;
+    std::optional<PixelRect> labelBounds;
+    std::string labelCaption;
+    std::optional<AlertPicture> picture;
+    std::optional<RoundRegion> region;
+    std::vector<std::uint8_t> alphas;
+    std::vector<bool> topmost;
+    int timerStarts = 0;
+    int unloads = 0;
+};
+
+// A model loaded on a recording surface.
+class RecordedAlert : public AlertInstance {
+public:
+    RecordedAlert(AlertBoard& board, AlertScreen screen) : surface(screen), model(board) { model.Load(surface); }
+    AlertModel& Model() override { return model; }
+
+    RecordingAlertSurface surface;
+    AlertModel model;
+};
+
+class RecordedAlertFactory : public AlertFactory {
+public:
+    AlertScreen screen = StandardScreen();
+    // Every alert made, oldest first; the factory drops an unloaded one when it makes the next.
+    std::vector<RecordedAlert*> made;
+
+    // Ticks every loaded alert, as their timers would.
+    void TickAll(int ticks) {
+        for (int i = 0; i < ticks; ++i) {
+            const std::vector<AlertModel*> open = Board().open;
+            for (AlertModel* alert : open) alert->Tick();
+        }
+    }
+
+protected:
+    std::unique_ptr<AlertInstance> Create(AlertBoard& board) override {
+        auto alert = std::make_unique<RecordedAlert>(board, screen);
+        made.push_back(alert.get());
+        return alert;
+    }
+};
+
+}  // namespace controls::testing
