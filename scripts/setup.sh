@@ -9,6 +9,7 @@ packages=(
     wine wine64 fonts-wine                                          # running them (fonts-wine: captions)
     locales                                                         # ja_JP definitions for localedef
     xvfb openbox imagemagick fonts-ipafont                          # headless screen, window manager, screenshots, Japanese fonts
+    xdotool                                                         # real mouse clicks on the headless screen
     procps util-linux                                               # pkill, flock in the test scripts
 )
 

@@ -70,6 +70,9 @@ void DemoWindow::OnCommand(int id, int code, HWND control) {
         return;
     }
     if (code != BN_CLICKED) return;
+    // A multi-line edit reports no change when another program sets its text: the handlers
+    // read the box as it stands, as they would read the control itself.
+    m_form.SetText1(base::WindowText(m_text1));
     const bool checked = SendMessageW(control, BM_GETCHECK, 0, 0) == BST_CHECKED;
     switch (id) {
     case kChkFade: m_form.SetFade(checked); break;
