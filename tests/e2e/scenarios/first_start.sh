@@ -20,7 +20,13 @@ e2e_wait_file pcset.ini 10
 e2e_wait_file pcset2.ini 10
 assert_file_bytes pcset.ini $'"NG"\r\n'
 assert_file_bytes pcset2.ini $'"NG"\r\n'
-assert_program_files "$E2E_PROCESS" veskarneton.ico veskarnetoff.ico "$E2E_MANIFEST" setting.ini pcset.ini pcset2.ini
+files=("$E2E_PROCESS" veskarneton.ico veskarnetoff.ico "$E2E_MANIFEST" setting.ini pcset.ini pcset2.ini)
+if [[ -e $E2E_PROGRAM_DIR/app.ini ]]; then
+    # The allowed-applications list may load itself at start; it creates its file empty.
+    assert_file_bytes app.ini ""
+    files+=(app.ini)
+fi
+assert_program_files "${files[@]}"
 
 window=$(drive window --title "$E2E_BANNER")
 assert_line "$window" $'visible\t0' "the main window starts hidden when open=0"
