@@ -291,6 +291,11 @@ TEST(GraphMoveProperties, StoredTextThatIsNoNumberIsATypeMismatch) {
     ExpectError(base::RuntimeErrorNumber::TypeMismatch, [&] { graph.ReadProperties(bag); });
     ExpectError(base::RuntimeErrorNumber::Overflow,
                 [&] { graph.ReadProperties(PropertyBag::Load("BorderStyle=40000\r\n")); });
+    // Beyond the single-precision range.
+    ExpectError(base::RuntimeErrorNumber::Overflow,
+                [&] { graph.ReadProperties(PropertyBag::Load("MaxValue=1E39\r\n")); });
+    graph.ReadProperties(PropertyBag::Load("MaxValue=3.4E38\r\n"));
+    EXPECT_FLOAT_EQ(graph.Properties().MaxValue, 3.4e38f);
 }
 
 TEST(GraphMoveProperties, InitPropertiesResetsTheGridRangeAndValues) {
