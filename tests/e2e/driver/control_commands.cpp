@@ -90,10 +90,9 @@ void ListViewCount(const Options& options) {
     PrintLine({std::to_string(SendMessageW(Control(options, WC_LISTVIEWW), LVM_GETITEMCOUNT, 0, 0))});
 }
 
-void Tabs(const Options& options) {
-    HWND tabs = Control(options, WC_TABCONTROLW);
+std::vector<std::string> TabCaptions(HWND tabs) {
     RemoteBuffer buffer(tabs, kBufferSize);
-    const auto selected = static_cast<int>(SendMessageW(tabs, TCM_GETCURSEL, 0, 0));
+    std::vector<std::string> captions;
     const auto count = static_cast<int>(SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0));
     for (int index = 0; index < count; ++index) {
         buffer.Clear();
@@ -104,18 +103,36 @@ void Tabs(const Options& options) {
         buffer.Put(0, request);
         if (!SendMessageW(tabs, TCM_GETITEMW, index, buffer.Param()))
             throw Failure("TCM_GETITEMW failed for tab " + std::to_string(index));
-        PrintLine({std::to_string(index), index == selected ? "selected" : "-", buffer.Text(kTextOffset, kTextChars)});
+        captions.push_back(buffer.Text(kTextOffset, kTextChars));
     }
+    return captions;
+}
+
+void Tabs(const Options& options) {
+    HWND tabs = Control(options, WC_TABCONTROLW);
+    const auto selected = static_cast<int>(SendMessageW(tabs, TCM_GETCURSEL, 0, 0));
+    const std::vector<std::string> captions = TabCaptions(tabs);
+    for (int index = 0; index < static_cast<int>(captions.size()); ++index)
+        PrintLine({std::to_string(index), index == selected ? "selected" : "-", captions[index]});
+}
+
+// The tab named by its index (from 0) or by its caption.
+int TabIndex(HWND tabs, const std::string& wanted) {
+    const std::vector<std::string> captions = TabCaptions(tabs);
+    for (int index = 0; index < static_cast<int>(captions.size()); ++index)
+        if (CaptionMatches(captions[index], wanted)) return index;
+    const bool isNumber = !wanted.empty() && wanted.find_first_not_of("0123456789") == std::string::npos;
+    if (!isNumber || std::stoul(wanted) >= captions.size())
+        throw Failure("there is no tab \"" + wanted + "\" (neither a caption nor an index from 0)");
+    return std::stoi(wanted);
 }
 
 // TCM_SETCURSEL changes the tab without telling the program; a click runs the control's own code,
 // which asks the parent (TCN_SELCHANGING) and reports the change (TCN_SELCHANGE) as for a user.
 void SelectTab(const Options& options) {
-    if (options.arguments.size() != 1) throw std::invalid_argument("select-tab needs the tab index (from 0)");
-    const int index = ParseNumber(options.arguments[0], "the index");
+    if (options.arguments.size() != 1) throw std::invalid_argument("select-tab needs the tab's index or caption");
     HWND tabs = Control(options, WC_TABCONTROLW);
-    if (index < 0 || index >= SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0))
-        throw Failure("there is no tab " + options.arguments[0]);
+    const int index = TabIndex(tabs, options.arguments[0]);
     ClickInside(tabs, ControlRect(tabs, TCM_GETITEMRECT, index));
     if (!WaitUntil(options.timeout, [&] { return SendMessageW(tabs, TCM_GETCURSEL, 0, 0) == index; }))
         throw Failure("tab " + options.arguments[0] + " did not become selected (the program refused the change?)");
@@ -197,7 +214,7 @@ const std::vector<Command>& ControlCommands() {
         {"listview-rows", "listview-rows           list-view rows: the texts of all cells", ListViewRows},
         {"listview-count", "listview-count          number of list-view rows", ListViewCount},
         {"tabs", "tabs                    tabs: index, selected|-, caption", Tabs},
-        {"select-tab", "select-tab INDEX        click tab INDEX (from 0) as a user does", SelectTab},
+        {"select-tab", "select-tab INDEX|CAPTION  click a tab (index from 0, or caption) as a user does", SelectTab},
         {"status", "status                  status-bar panels: index, text", StatusPanels},
         {"toolbar", "toolbar                 toolbar buttons: index, id, state, text, tooltip", Toolbar},
         {"toolbar-click", "toolbar-click ID        press the toolbar button with command id ID", ClickToolbarButton},
