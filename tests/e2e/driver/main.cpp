@@ -141,6 +141,9 @@ int main() {
             } catch (const std::invalid_argument& error) {
                 std::fprintf(stderr, "lookout_driver %s: %s\n", command.name, error.what());
                 return 2;
+            } catch (const std::exception& error) {
+                std::fprintf(stderr, "lookout_driver %s: %s\n", command.name, error.what());
+                return 1;
             }
         }
     }
