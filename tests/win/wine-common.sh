@@ -2,12 +2,11 @@
 # the Wine prefixes and the headless X servers of this project are made.
 #
 # A template prefix is built once (wineboot takes seconds) and cached; every user of Wine here gets a
-# copy of it (well under a second). The template is keyed by the Wine version and by this file, so a
-# change to either builds a new one. The Japanese locale is compiled into a private folder, so no
+# copy of it (well under a second). The template is keyed by the Wine version and by the code that
+# makes it, so a change to either builds a new one. The Japanese locale is compiled into a private folder, so no
 # system-wide locale change is needed.
 
-lookout_wine_cache=${LOOKOUT_WINE_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/veskar_lookout}
-lookout_wine_source=${BASH_SOURCE[0]}
+lookout_wine_cache=${LOOKOUT_WINE_CACHE:-${XDG_CACHE_HOME:-${HOME:-/tmp}/.cache}/veskar_lookout}
 
 lookout_die() {
     echo "error: $*" >&2
@@ -80,7 +79,9 @@ REG
 lookout_wine_template() {
     lookout_wine_environment
     local key
-    key=$( { wine --version 2>/dev/null; cat "$lookout_wine_source"; } | sha1sum | cut -c1-12)
+    # Only what goes into the template counts, so other edits to this file keep the cache.
+    key=$( { wine --version 2>/dev/null; declare -f lookout_write_registry_file lookout_wine_template; } |
+        sha1sum | cut -c1-12)
     local template=$lookout_wine_cache/template-$key
     if [[ ! -e $template/.lookout-ready ]]; then
         (
