@@ -1,0 +1,42 @@
+#include "app/program_commands.h"
+
+#include "base/local_time.h"
+#include "base/product.h"
+
+namespace app {
+namespace {
+
+bool Confirmed(platform::IDialogs& dialogs, const char* question) {
+    return dialogs.ShowMessage(question, base::kProductName, platform::msgbox::kYesNo | platform::msgbox::kQuestion) ==
+           platform::msgbox::kYes;
+}
+
+}  // namespace
+
+ProgramCommands::ProgramCommands(Program& program, IMonitorHost& host, MonitoringCycle& monitoring,
+                                 platform::IDialogs& dialogs, platform::ITrayIcon& trayIcon, platform::IClock& clock)
+    : m_program(program), m_host(host), m_monitoring(monitoring), m_dialogs(dialogs), m_trayIcon(trayIcon),
+      m_clock(clock) {}
+
+bool ProgramCommands::Exit() {
+    if (!Confirmed(m_dialogs, "終了してもよろしいですか？")) return false;
+    m_monitoring.StopMonitoring();  // what unloading the main window does
+    if (m_program.settings.logflag == 1) m_host.SaveMainMonitor();
+    m_trayIcon.Remove();
+    return true;
+}
+
+void ProgramCommands::WindowsSessionEnding() {
+    if (m_program.settings.logflag != 1) return;
+    m_host.MainMonitor().AddRow({base::MonitorStamp(m_clock.Now()) + "Windowsが終了されました。"});
+    m_host.SaveMainMonitor();
+}
+
+void ProgramCommands::ClearMainMonitor() {
+    if (!Confirmed(m_dialogs, "メインモニタをクリアしてもよろしいですか？")) return;
+    base::TableModel& monitor = m_host.MainMonitor();
+    monitor.Clear();
+    monitor.AddRow({base::kBanner});
+}
+
+}  // namespace app

@@ -1,0 +1,35 @@
+#pragma once
+// The commands that end the program or clear its log: the exit command (toolbar and menu),
+// the end of the Windows session, and the clearing of the main monitor.
+#include "app/monitor_host.h"
+#include "app/monitoring_cycle.h"
+#include "app/program.h"
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/shell.h"
+
+namespace app {
+
+class ProgramCommands {
+public:
+    ProgramCommands(Program& program, IMonitorHost& host, MonitoringCycle& monitoring, platform::IDialogs& dialogs,
+                    platform::ITrayIcon& trayIcon, platform::IClock& clock);
+
+    // Asks for confirmation; on Yes stops monitoring, saves the main monitor when "logflag"
+    // is 1 and removes the tray icon. True when the program is to end.
+    bool Exit();
+    // Windows ends the session: with "logflag" 1 the main monitor gets its last row and is saved.
+    void WindowsSessionEnding();
+    // Clears the main monitor after confirmation; it starts again with the banner row.
+    void ClearMainMonitor();
+
+private:
+    Program& m_program;
+    IMonitorHost& m_host;
+    MonitoringCycle& m_monitoring;
+    platform::IDialogs& m_dialogs;
+    platform::ITrayIcon& m_trayIcon;
+    platform::IClock& m_clock;
+};
+
+}  // namespace app
