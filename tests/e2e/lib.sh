@@ -13,7 +13,7 @@ set -euo pipefail
 E2E_EXE=$(readlink -f "$1")
 E2E_DRIVER=$(readlink -f "$2")
 E2E_SOURCE=$(readlink -f "$3")
-E2E_WORK=$4
+E2E_WORK=$(readlink -m "$4")
 E2E_NAME=$(basename "$0" .sh)
 E2E_PROGRAM_DIR=$E2E_WORK/program
 E2E_PROCESS=$(basename "$E2E_EXE")
@@ -52,8 +52,8 @@ e2e_cleanup() {
     lookout_wine_stop
     lookout_stop_x
     if [[ $status -ne 0 && -s $E2E_WORK/program.log ]]; then
-        echo "--- program output (last 40 lines of $E2E_WORK/program.log) ---" >&2
-        tail -n 40 "$E2E_WORK/program.log" >&2
+        echo "--- program output (last 40 lines of $E2E_WORK/program.log, Wine traces left out) ---" >&2
+        grep -av ':trace:' "$E2E_WORK/program.log" | tail -n 40 >&2
     fi
     [[ -n ${E2E_KEEP_PREFIX:-} ]] || rm -rf "$E2E_WORK/prefix"
     if [[ $status -eq 0 ]]; then
@@ -99,6 +99,30 @@ e2e_start() {
     (cd "$E2E_PROGRAM_DIR" && exec wine "./$E2E_PROCESS" "$@") >>"$E2E_WORK/program.log" 2>&1 &
     e2e_program_job=$!
     e2e_log "started $E2E_PROCESS (job $e2e_program_job)"
+}
+
+# Like e2e_start, with Wine logging every file opened by the program and the processes it starts,
+# for e2e_traced_writes.
+e2e_start_traced() {
+    WINEDEBUG=+pid,trace+file e2e_start "$@"
+}
+
+# The program-folder files opened for writing since e2e_start_traced, one "PID<TAB>NAME" line per
+# open, in order; PID is Wine's process id (hex). e2e_traced_first_process prints the id of the
+# process that was started (the first to appear in the log).
+e2e_traced_writes() {
+    local folder=Z:${E2E_PROGRAM_DIR//\//\\}\\
+    grep -a ':trace:file:CreateFileW L"' "$E2E_WORK/program.log" | grep -a 'GENERIC_WRITE' |
+        sed -n 's/^\([0-9a-f]*\):[0-9a-f]*:trace:file:CreateFileW L"\([^"]*\)".*/\1\t\2/p' |
+        sed 's/\\\\/\\/g; s/\\\+/\\/g' |
+        folder=$folder awk -F'\t' '{ folder = ENVIRON["folder"] }
+            index(tolower($2), tolower(folder)) == 1 {
+            name = substr($2, length(folder) + 1)
+            if (index(name, "\\") == 0) print $1 "\t" name
+        }'
+}
+e2e_traced_first_process() {
+    grep -a -m 1 -o '^[0-9a-f]\{4,\}:[0-9a-f]\{4,\}:' "$E2E_WORK/program.log" | cut -d: -f1
 }
 
 # Waits up to SECONDS for the process started by the last e2e_start to end; fails if it does not.
