@@ -1,8 +1,11 @@
 // Runs every benchmark, then prints each registered ratio with its limit.
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include <cstdio>
 #include <map>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "bench/ratios.h"
@@ -15,18 +18,26 @@ std::vector<Ratio>& Ratios() {
     return ratios;
 }
 
-// Keeps the time per iteration of every run while printing as usual.
+// Keeps the processor time per iteration of every benchmark, and its counters as
+// "name:counter", while printing as usual: the median of the repetitions where there are some.
+// Processor time, because the machines that run this are shared and wall time carries the
+// others' load.
 class RecordingReporter : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const auto& run : runs) {
-            if (run.run_type == Run::RT_Iteration && run.iterations > 0) {
-                times[run.benchmark_name()] = run.real_accumulated_time / static_cast<double>(run.iterations);
-            }
+            const std::string& args = run.run_name.args;
+            const std::string name = run.run_name.function_name + (args.empty() ? "" : "/" + args);
+            const bool median = run.run_type == Run::RT_Aggregate && run.aggregate_name == "median";
+            if (!median && (run.run_type != Run::RT_Iteration || medians.count(name))) continue;
+            if (median) medians.insert(name);
+            times[name] = run.GetAdjustedCPUTime();
+            for (const auto& [counter, value] : run.counters) times[name + ":" + counter] = value;
         }
         ConsoleReporter::ReportRuns(runs);
     }
     std::map<std::string, double> times;
+    std::set<std::string> medians;
 };
 
 }  // namespace
@@ -39,6 +50,12 @@ bool AddRatio(Ratio ratio) {
 }  // namespace bench
 
 int main(int argc, char** argv) {
+    // Benchmarks build and free large tables outside their timed sections. The allocator must
+    // keep that memory rather than hand it back to the system each time, or the next timed
+    // section pays for fresh pages, which has nothing to do with the code measured.
+    mallopt(M_TRIM_THRESHOLD, 256 * 1024 * 1024);
+    mallopt(M_MMAP_THRESHOLD, 256 * 1024 * 1024);
+
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     bench::RecordingReporter reporter;

@@ -11,24 +11,12 @@
 
 #include "base/table_model.h"
 #include "bench/disk_file_system.h"
+#include "bench/quiet_services.h"
 #include "bench/ratios.h"
 #include "logs/log_writer.h"
-#include "platform/clock.h"
-#include "platform/message_pump.h"
 
 namespace bench {
 namespace {
-
-class FixedClock : public platform::IClock {
-public:
-    base::LocalTime Now() override { return {2005, 6, 22, 9, 5, 3}; }
-    std::uint32_t TickCount() override { return 0; }
-};
-
-class NoMessages : public platform::IMessagePump {
-public:
-    void DoEvents() override { benchmark::ClobberMemory(); }
-};
 
 // A day of monitoring: traffic rows, open files of other users, session rows.
 const base::TableModel& BusyMainMonitor() {
@@ -91,7 +79,7 @@ void SaveMainMonitor(benchmark::State& state) {
     }
     state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * size));
 }
-BENCHMARK(SaveMainMonitor)->Unit(benchmark::kMicrosecond);
+BENCHMARK(SaveMainMonitor)->Unit(benchmark::kMicrosecond)->Repetitions(5)->ReportAggregatesOnly();
 
 // Writes pieces of bytes to a fresh file with stdio, once per iteration.
 void WriteFresh(benchmark::State& state, const std::string& path, const std::vector<std::string_view>& pieces,
@@ -120,7 +108,7 @@ void WriteSameBytesRaw(benchmark::State& state) {
     }
     WriteFresh(state, fixture.Path("raw.txt"), lines, bytes.size());
 }
-BENCHMARK(WriteSameBytesRaw)->Unit(benchmark::kMicrosecond);
+BENCHMARK(WriteSameBytesRaw)->Unit(benchmark::kMicrosecond)->Repetitions(5)->ReportAggregatesOnly();
 
 // The whole file in one write: the bare cost of the bytes reaching the disk, for comparison.
 void WriteSameBytesAtOnce(benchmark::State& state) {
@@ -128,7 +116,7 @@ void WriteSameBytesAtOnce(benchmark::State& state) {
     const std::string bytes = fixture.SavedBytes();
     WriteFresh(state, fixture.Path("raw.txt"), {bytes}, bytes.size());
 }
-BENCHMARK(WriteSameBytesAtOnce)->Unit(benchmark::kMicrosecond);
+BENCHMARK(WriteSameBytesAtOnce)->Unit(benchmark::kMicrosecond)->Repetitions(5)->ReportAggregatesOnly();
 
 const bool kRatios[] = {
     AddRatio({"save of a 10,001-row main monitor / the same lines written raw", "SaveMainMonitor",

@@ -7,7 +7,7 @@ namespace bench {
 
 struct Ratio {
     std::string title;
-    std::string numerator;    // full benchmark names, as Google Benchmark prints them
+    std::string numerator;    // a benchmark's name with its arguments, or "name:counter"
     std::string denominator;
     double limit;  // 0: printed for information only
 };

@@ -1,0 +1,53 @@
+#pragma once
+// A main-window model over fakes, with a view that records what it is told.
+#include <gtest/gtest.h>
+
+#include <utility>
+#include <vector>
+
+#include "app/settings.h"
+#include "fakes/fake_clock.h"
+#include "fakes/fake_dialogs.h"
+#include "fakes/fake_file_system.h"
+#include "fakes/fake_message_pump.h"
+#include "mainwindow/main_window_model.h"
+
+namespace mainwindow {
+
+class RecordingView : public IMainWindowView {
+public:
+    void OnChanged(Change what, int index) override { changes.emplace_back(what, index); }
+    int Count(Change what) const {
+        int n = 0;
+        for (const auto& c : changes) n += c.first == what ? 1 : 0;
+        return n;
+    }
+    std::vector<std::pair<Change, int>> changes;
+};
+
+class MainWindowTest : public ::testing::Test {
+protected:
+    static app::Program MakeProgram() {
+        app::Program program;
+        program.folder = "C:\\Lookout\\";
+        program.settings = app::DefaultSettings();
+        return program;
+    }
+
+    MainWindowTest() { model.SetView(&view); }
+
+    // Fills a list with n rows of one cell each.
+    void Fill(ListId list, int n) {
+        for (int i = 0; i < n; ++i) model.List(list).AddRow({"row" + std::to_string(i)});
+    }
+
+    app::Program program = MakeProgram();
+    fakes::FakeFileSystem files;
+    fakes::FakeClock clock;
+    fakes::FakeMessagePump pump;
+    fakes::FakeDialogs dialogs;
+    MainWindowModel model{program, {files, clock, pump, dialogs}};
+    RecordingView view;
+};
+
+}  // namespace mainwindow
