@@ -54,6 +54,7 @@ for program in "${benchmarks[@]}"; do
     "$program"
 done
 [[ ${#benchmarks[@]} -gt 0 ]] || echo "(no benchmark programs built)"
+bash tests/bench/monitoring_cpu.sh "$root/windows-x64" # the program's monitoring against its floor, under Wine
 
 trap - ERR
 echo
