@@ -40,7 +40,7 @@ StartupOutcome RunStartup(Program& program, StartupServices& s, IStartupHost& ho
 
     host.LoadMainWindow(base::kBanner);
     host.AddMainMonitorRow(base::kBanner);
-    if (const auto name = s.system.ComputerName()) host.SetComputerName(*name);
+    if (const auto name = s.system.ComputerName()) host.SetComputerNameText(*name);
 
     program.tray.currentIcon = "veskarnetoff.ico";
     program.tray.shownIcon = "veskarnetoff.ico";

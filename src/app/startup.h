@@ -26,7 +26,7 @@ public:
     // Loads the main window (hidden) and sets its caption; the first main-monitor row follows.
     virtual void LoadMainWindow(const std::string& caption) = 0;
     virtual void AddMainMonitorRow(const std::string& text) = 0;
-    virtual void SetComputerName(const std::string& name) = 0;
+    virtual void SetComputerNameText(const std::string& name) = 0;
     virtual void ShowMainWindow() = 0;
     virtual void StartMonitoring() = 0;
     virtual void SetStatusPanel(int panel, const std::string& text) = 0;

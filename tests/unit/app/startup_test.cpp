@@ -45,7 +45,7 @@ class RecordingHost : public IStartupHost {
 public:
     void LoadMainWindow(const std::string& caption) override { calls.push_back("load " + caption); }
     void AddMainMonitorRow(const std::string& text) override { calls.push_back("row " + text); }
-    void SetComputerName(const std::string& name) override { calls.push_back("computer " + name); }
+    void SetComputerNameText(const std::string& name) override { calls.push_back("computer " + name); }
     void ShowMainWindow() override { calls.push_back("show"); }
     void StartMonitoring() override { calls.push_back("start"); }
     void SetStatusPanel(int panel, const std::string& text) override {
