@@ -41,7 +41,7 @@ void MainWindowModel::SetCaption(std::string text) {
     if (Store(m_caption, std::move(text))) Notify(Change::Caption);
 }
 
-void MainWindowModel::SetComputerName(std::string text) {
+void MainWindowModel::SetComputerNameText(std::string text) {
     if (Store(m_computerName, std::move(text))) Notify(Change::ComputerName);
 }
 

@@ -83,8 +83,8 @@ public:
     // --- Texts and visibility.
     const std::string& Caption() const { return m_caption; }
     void SetCaption(std::string text);
-    const std::string& ComputerName() const { return m_computerName; }
-    void SetComputerName(std::string text);
+    const std::string& ComputerNameText() const { return m_computerName; }
+    void SetComputerNameText(std::string text);
     // Panels 1 to 5 of stbStatus.
     const std::string& PanelText(int panel) const;
     void SetPanelText(int panel, std::string text);

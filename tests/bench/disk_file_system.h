@@ -26,7 +26,9 @@ class DiskOutputFile : public platform::IOutputFile {
 public:
     explicit DiskOutputFile(std::FILE* file) : m_file(file) {}
     ~DiskOutputFile() override { std::fclose(m_file); }
-    bool Write(std::string_view bytes) override { return std::fwrite(bytes.data(), 1, bytes.size(), m_file) == bytes.size(); }
+    bool Write(std::string_view bytes) override {
+        return std::fwrite(bytes.data(), 1, bytes.size(), m_file) == bytes.size();
+    }
 
 private:
     std::FILE* m_file;

@@ -64,9 +64,9 @@ TEST(MenuTree, TheMenuBarInOrder) {
     EXPECT_EQ(actual, expected);
     // Every item once, and its command leads back to it.
     ASSERT_EQ(items.size(), static_cast<std::size_t>(kMenuItemCount));
-    for (int i = 0; i < kMenuItemCount; ++i) {
-        EXPECT_EQ(items[static_cast<std::size_t>(i)], static_cast<MenuItem>(i));
-        EXPECT_EQ(MenuItemOfCommand(MenuCommand(items[static_cast<std::size_t>(i)])), items[static_cast<std::size_t>(i)]);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        EXPECT_EQ(items[i], static_cast<MenuItem>(i));
+        EXPECT_EQ(MenuItemOfCommand(MenuCommand(items[i])), items[i]);
     }
     EXPECT_FALSE(MenuItemOfCommand(kFirstMenuCommand - 1));
     EXPECT_FALSE(MenuItemOfCommand(kFirstMenuCommand + kMenuItemCount));
@@ -186,7 +186,7 @@ TEST_F(CommandsTest, TheViewHearsOfRealChangesOnly) {
     model.SetCaption("Veskar_Lookout v1.01");
     model.SetCaption("Veskar_Lookout v1.01");
     model.SetPanelText(3, "ユーザ : someone");
-    model.SetComputerName("PC01");
+    model.SetComputerNameText("PC01");
     model.SetVisible(true);
     model.SetTrafficLabel(1, "0");
     EXPECT_EQ(view.Count(Change::Caption), 1);
