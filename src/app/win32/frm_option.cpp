@@ -14,13 +14,17 @@ namespace {
 constexpr wchar_t kClassName[] = L"VeskarLookoutOptions";
 constexpr int kTabSetId = 1000;
 constexpr int kSwatchId = 1010;  // lblCOLOR(0), lblCOLOR(1)
-constexpr int kListEnableId = 1020;
+constexpr int kInterfaceId = 1002;
+constexpr int kIntervalId = 1003;
+constexpr int kListEnableId = 1020;   // + page
+constexpr int kListBoxId = 1100;      // + 20 x list + box
 
 // Layout in pixels at 96 DPI.
 constexpr int kWidth = 480;
 constexpr int kHeight = 430;
+constexpr int kTabRowHeight = 24;
 constexpr int kPageX = 22;
-constexpr int kPageY = 42;
+constexpr int kPageY = 46;
 
 int S(int pixels) { return base::ScaleForDpi(pixels); }
 
@@ -39,17 +43,21 @@ FrmOption::FrmOption(OptionsModel& model, std::function<void()> onSaved)
 void FrmOption::ShowModal(HWND owner) {
     m_model.Load();
     RegisterWindowClass(kClassName);
-    const DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
+    // No WS_CLIPCHILDREN: group boxes are transparent and rely on the dialog painting under them.
+    const DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU;
     RECT frame{0, 0, S(kWidth), S(kHeight)};
     AdjustWindowRectEx(&frame, style, FALSE, WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT);
-    RECT ownerRect{};
-    if (!owner || !IsWindowVisible(owner) || !GetWindowRect(owner, &ownerRect)) {
-        SystemParametersInfoW(SPI_GETWORKAREA, 0, &ownerRect, 0);
-    }
+    // Centred over the owner, and always whole on the work area.
+    RECT workArea{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &workArea, 0);
+    RECT ownerRect = workArea;
+    if (owner && IsWindowVisible(owner)) GetWindowRect(owner, &ownerRect);
     const int width = frame.right - frame.left;
     const int height = frame.bottom - frame.top;
-    const int x = ownerRect.left + ((ownerRect.right - ownerRect.left) - width) / 2;
-    const int y = ownerRect.top + ((ownerRect.bottom - ownerRect.top) - height) / 2;
+    const int x = std::clamp<int>(ownerRect.left + ((ownerRect.right - ownerRect.left) - width) / 2, workArea.left,
+                                  std::max<int>(workArea.left, workArea.right - width));
+    const int y = std::clamp<int>(ownerRect.top + ((ownerRect.bottom - ownerRect.top) - height) / 2, workArea.top,
+                                  std::max<int>(workArea.top, workArea.bottom - height));
     CreateWindowFor(WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT, kClassName, L"全般的な設定", style, x, y, width, height,
                     owner);
     CreateControls();
@@ -78,8 +86,9 @@ void FrmOption::ShowModal(HWND owner) {
 
 void FrmOption::CreateControls() {
     const HWND self = Handle();
+    // Only the row of tabs: the pages stand on the dialog's own background below it.
     m_tabSet = base::CreateControl(WC_TABCONTROLW, "", WS_VISIBLE | WS_TABSTOP | WS_CLIPSIBLINGS, S(10), S(10),
-                                   S(kWidth - 20), S(kHeight - 60), self, kTabSetId);
+                                   S(kWidth - 20), S(kTabRowHeight), self, kTabSetId);
     const char* captions[] = {"全般", "許可マシンリスト", "拒否マシンリスト"};
     for (int i = 0; i < 3; ++i) {
         std::wstring caption = base::Widen(captions[i]);
@@ -111,12 +120,12 @@ void FrmOption::CreateGeneralPage(int x, int y) {
     };
 
     add(L"BUTTON", "ネットワークカード", BS_GROUPBOX, 0, 0, 436, 58);
-    m_interface = add(WC_COMBOBOXW, "", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, 12, 22, 410, 200);
+    m_interface = add(WC_COMBOBOXW, "", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, 12, 22, 410, 200, kInterfaceId);
 
     add(L"BUTTON", "ログ", BS_GROUPBOX, 0, 66, 214, 86);
     m_logflag = check("終了時にログを保存", 12, 88, 190);
     add(L"STATIC", "ログ間隔", SS_LEFT, 12, 121, 70, 18);
-    m_interval = add(WC_COMBOBOXW, "", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWN, 84, 117, 80, 200);
+    m_interval = add(WC_COMBOBOXW, "", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWN, 84, 117, 80, 200, kIntervalId);
     add(L"STATIC", "秒", SS_LEFT, 170, 121, 30, 18);
 
     add(L"BUTTON", "ディスプレイ", BS_GROUPBOX, 222, 66, 214, 86);
@@ -124,7 +133,7 @@ void FrmOption::CreateGeneralPage(int x, int y) {
     add(L"STATIC", "背景色", SS_LEFT, 236, 122, 80, 18);
     for (int i = 0; i < 2; ++i) {
         m_lblColour[static_cast<std::size_t>(i)] =
-            add(L"STATIC", "", SS_NOTIFY | WS_BORDER, 320, 88 + 30 * i, 60, 22, kSwatchId + i);
+            add(L"STATIC", "", SS_NOTIFY | SS_SUNKEN, 320, 88 + 30 * i, 60, 22, kSwatchId + i);
     }
 
     add(L"BUTTON", "監視と通知", BS_GROUPBOX, 0, 160, 436, 108);
@@ -153,7 +162,7 @@ void FrmOption::CreateListPage(int page, const char* title, int x, int y) {
                                                S(18), self, 0));
         m_listBoxes[list][static_cast<std::size_t>(i)] =
             base::CreateControl(L"EDIT", "", WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, cx + S(28), cy, S(170), S(21),
-                                self, 0);
+                                self, kListBoxId + 20 * static_cast<int>(list) + i);
         controls.push_back(m_listBoxes[list][static_cast<std::size_t>(i)]);
     }
 }

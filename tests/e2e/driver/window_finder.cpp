@@ -12,9 +12,16 @@ namespace driver {
 
 std::string WindowText(HWND window) {
     // WM_GETTEXT is copied across processes by the system, unlike the common-control messages.
-    const int length = GetWindowTextLengthW(window);
+    // GetWindowText would not send it to another process's window: an edit's text would read empty.
+    DWORD_PTR length = 0;
+    if (!SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, 2000, &length)) return {};
     std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), length + 1)));
+    DWORD_PTR copied = 0;
+    if (!SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()), SMTO_ABORTIFHUNG,
+                             2000, &copied)) {
+        return {};
+    }
+    text.resize(static_cast<std::size_t>(copied));
     return base::Narrow(text);
 }
 

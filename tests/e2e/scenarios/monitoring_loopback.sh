@@ -1,0 +1,64 @@
+#!/usr/bin/env bash
+# Monitoring at a one-second interval on the loopback interface: start-up writes the start row
+# with the system's uptime, loopback traffic gives traffic rows, the toolbar's stop and start
+# write their rows and switch the buttons, and the tray icon follows.
+source "$(dirname "$0")/../lib.sh"
+e2e_begin
+
+# Linux gives the loopback interface the lowest index, so it is the first of the table: "0: lo".
+printf '[main]\r\ntime=1\r\nopen=1\r\nstart=1\r\npacket=1\r\nbeep=0\r\nlogflag=0\r\nbackcolor=16777215\r\nfontcolor=0\r\nwindow=1\r\nnc=0: lo\r\nfront=0\r\napp=0\r\n' \
+    >"$E2E_PROGRAM_DIR/setting.ini"
+e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
+timeout 90 python3 "$E2E_SOURCE/tests/e2e/loopback_traffic.py" 40 &
+e2e_start
+drive wait --title "$E2E_BANNER" --visible --timeout 20000 >/dev/null
+
+rows() { drive listview-rows --title "$E2E_BANNER" --visible-control; }
+stamp='\[[0-9]{4}/[0-9]{2}/[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\]'
+band=$(drive children --title "$E2E_BANNER")
+grep -q $'\t0: lo$' <<<"$band" || fail "the selected interface should be the loopback, the window holds:
+$band"
+
+started=$(rows)
+grep -Eq "^$stamp  監視を開始しました。Windows起動の経過時間 [0-9]{2}:[0-9]{2}:[0-9]{2}$" <<<"$started" ||
+    fail "start-up should write the start row with the uptime, rows are:
+$started"
+
+# Traffic rows: the first tick only takes the sample, later ones write what loopback carried.
+traffic_row="^$stamp  送信 : [0-9,]+ KB  受信 : [0-9,]+ KB$"
+for _ in $(seq 1 20); do
+    grep -Eq "$traffic_row" <<<"$(rows)" && break
+    drive wait-gone --title "no such window" --timeout 1000 >/dev/null
+done
+grep -Eq "$traffic_row" <<<"$(rows)" || fail "loopback traffic should give traffic rows, rows are:
+$(rows)"
+status=$(drive status --title "$E2E_BANNER")
+grep -q $'^1\tサーバ : ' <<<"$status" || fail "the guard names the server on panel 2, panels are:
+$status"
+e2e_screenshot monitoring
+
+# The toolbar: while monitoring, start is off and stop on; stop writes its row and switches back.
+button_id() { drive toolbar --title "$E2E_BANNER" | awk -F'\t' -v tip="$1" '$5 == tip { print $2 }'; }
+button_state() { drive toolbar --title "$E2E_BANNER" | awk -F'\t' -v tip="$1" '$5 == tip { print $3 }'; }
+assert_contains "$(button_state 監視を開始)" "disabled" "the start button while monitoring"
+drive toolbar-click "$(button_id 監視を停止)" --title "$E2E_BANNER"
+stopped=$(rows)
+grep -Eq "^$stamp 監視を停止しました。$" <<<"$(tail -n 1 <<<"$stopped")" ||
+    fail "stop should write its row last, rows are:
+$stopped"
+assert_contains "$(button_state 監視を停止)" "disabled" "the stop button after stopping"
+# The tray tip shows after the pointer rests on the icon for a moment.
+hover_tray() {
+    xdotool mousemove 1200 1012 mousemove 1268 1012
+    sleep 1.5
+}
+hover_tray
+e2e_screenshot stopped_tray
+
+drive toolbar-click "$(button_id 監視を開始)" --title "$E2E_BANNER"
+restarted=$(rows)
+grep -Eq "^$stamp  監視を開始しました。Windows起動の経過時間 " <<<"$(tail -n 1 <<<"$restarted")" ||
+    fail "start should write its row last, rows are:
+$restarted"
+hover_tray
+e2e_screenshot monitoring_tray

@@ -1,0 +1,66 @@
+#!/usr/bin/env bash
+# The options dialog opens from the Tools menu with the settings and both PC lists; OK writes the
+# two list files (21 quoted records each) and setting.ini and shows the new interval at once;
+# Cancel changes no file.
+source "$(dirname "$0")/../lib.sh"
+e2e_begin
+printf '[main]\r\ntime=10\r\nopen=1\r\nstart=0\r\npacket=1\r\nbeep=0\r\nlogflag=0\r\nbackcolor=16777215\r\nfontcolor=0\r\nwindow=1\r\nnc=\r\nfront=0\r\napp=0\r\n' \
+    >"$E2E_PROGRAM_DIR/setting.ini"
+printf '"OK"\r\n"最初の欄"\r\n"192.168.10.5"\r\n' >"$E2E_PROGRAM_DIR/pcset2.ini.utf8"
+iconv -f UTF-8 -t CP932 "$E2E_PROGRAM_DIR/pcset2.ini.utf8" >"$E2E_PROGRAM_DIR/pcset2.ini"
+rm "$E2E_PROGRAM_DIR/pcset2.ini.utf8"
+e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
+e2e_start
+drive wait --title "$E2E_BANNER" --visible --timeout 20000 >/dev/null
+
+open_options() {
+    drive menu-invoke "ツール(&T)" "全般的な設定...(&G)" --title "$E2E_BANNER"
+    drive wait --title "全般的な設定" --visible --timeout 10000 >/dev/null
+}
+# Control ids: the list boxes 1100 + 20 x list + box (allow 0, deny 1).
+visible_deny_boxes() {
+    drive children --title "全般的な設定" | awk -F'\t' '$2 >= 1120 && $2 < 1140 && $4 == 1 { print $5 }'
+}
+
+open_options
+controls=$(drive children --title "全般的な設定")
+for caption in ネットワークカード ログ 終了時にログを保存 ディスプレイ アプリケーションの監視 通信パケットの監視 \
+    外部アクセスの際に音で通知 別ウィンドウによる通知 監視を開始する 起動時に画面を表示する OK キャンセル; do
+    grep -q $'\t'"$caption"'$' <<<"$controls" || fail "the dialog lacks [$caption]:
+$controls"
+done
+tabs=$(drive tabs --title "全般的な設定")
+e2e_screenshot options_general
+drive select-tab 拒否マシンリスト --title "全般的な設定"
+for _ in 1 2 3 4 5; do
+    deny_boxes=$(visible_deny_boxes)
+    [[ -n $deny_boxes ]] && break
+    drive wait-gone --title "no such window" --timeout 500 >/dev/null
+done
+assert_eq $'最初の欄\n192.168.10.5' "$(head -n 2 <<<"$deny_boxes")" "the deny list's first two boxes"
+e2e_screenshot options_deny
+
+# Cancel writes nothing.
+before=$(md5sum "$E2E_PROGRAM_DIR"/*.ini)
+drive click --title "全般的な設定" --caption キャンセル
+drive wait-gone --title "全般的な設定" --timeout 10000
+assert_eq "$before" "$(md5sum "$E2E_PROGRAM_DIR"/*.ini)" "Cancel leaves the files as they were"
+
+# OK writes both lists and the settings; the interval shows on panel 4 at once.
+open_options
+drive select-tab 許可マシンリスト --title "全般的な設定"
+drive check 1 --title "全般的な設定" --caption "このリストを有効にする" --visible-control
+drive set-text "事務所PC" --title "全般的な設定" --id 1101
+drive select-tab 全般 --title "全般的な設定"
+drive set-text 30 --title "全般的な設定" --id 1001  # the edit inside the interval drop-down
+drive click --title "全般的な設定" --caption OK
+drive wait-gone --title "全般的な設定" --timeout 10000
+
+allow=$(e2e_file_text pcset.ini)
+assert_eq 21 "$(grep -c . <<<"$allow")" "pcset.ini holds 21 records"
+assert_eq $'"OK"\r\n""\r\n"事務所PC"\r\n""\r' "$(head -n 4 <<<"$allow")" "the allow list's switch and first entries"
+assert_eq $'"OK"\r\n"最初の欄"\r\n"192.168.10.5"\r\n""\r' "$(head -n 4 <<<"$(e2e_file_text pcset2.ini)")" "the deny list kept"
+settings=$(e2e_file_text setting.ini)
+assert_contains "$settings" $'time=30\r' "the interval is written"
+status=$(drive status --title "$E2E_BANNER")
+assert_line "$status" $'3\tログ間隔 : 30秒' "panel 4 shows the new interval"
