@@ -68,6 +68,33 @@ void SetVisibility(const Options& options, bool visible) {
         throw Failure(std::string("the window did not become ") + (visible ? "visible" : "hidden"));
 }
 
+// Resizes the window to WIDTH x HEIGHT outer pixels, or minimises or restores it, and waits for
+// the result; the system may keep a window larger than asked (its smallest tracking size).
+void Size(const Options& options) {
+    HWND window = WaitForTopLevelWindow(options);
+    const auto& a = options.arguments;
+    if (a.size() == 1 && (a[0] == "minimize" || a[0] == "restore")) {
+        const bool minimise = a[0] == "minimize";
+        ShowWindowAsync(window, minimise ? SW_MINIMIZE : SW_RESTORE);
+        if (!WaitUntil(options.timeout, [&] { return (IsIconic(window) != FALSE) == minimise; }))
+            throw Failure(std::string("the window was not ") + (minimise ? "minimized" : "restored"));
+        return;
+    }
+    if (a.size() != 2) throw std::invalid_argument("size needs WIDTH HEIGHT, minimize or restore");
+    const int width = ParseNumber(a[0], "WIDTH");
+    const int height = ParseNumber(a[1], "HEIGHT");
+    RECT before{};
+    GetWindowRect(window, &before);
+    // Carried out by the window's own thread: the driver never blocks on a busy target.
+    SetWindowPos(window, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
+    const auto sized = [&] {
+        RECT now{};
+        GetWindowRect(window, &now);
+        return (now.right - now.left == width && now.bottom - now.top == height) || !EqualRect(&now, &before);
+    };
+    if (!WaitUntil(options.timeout, sized)) throw Failure("the window kept its size");
+}
+
 void Close(const Options& options) {
     if (!PostMessageW(WaitForTopLevelWindow(options), WM_CLOSE, 0, 0)) throw Failure("cannot post WM_CLOSE");
 }
@@ -114,6 +141,7 @@ const std::vector<Command>& WindowCommands() {
          [](const Options& o) { SetVisibility(o, true); }},
         {"hide", "hide                    hide the window and wait until it is hidden",
          [](const Options& o) { SetVisibility(o, false); }},
+        {"size", "size W H|minimize|restore  resize the window (outer pixels), or minimise or restore it", Size},
         {"close", "close                   post WM_CLOSE to the window", Close},
         {"processes", "processes               running processes (of --process): pid, image name", ListProcesses},
         {"wait-exit", "wait-exit               wait until no process named --process runs", WaitExit},
