@@ -69,6 +69,7 @@ FrmMain::FrmMain(MainWindowModel& model)
                     CW_USEDEFAULT, CW_USEDEFAULT, base::TwipsToPixels(kFormWidthTwips, m_twipsPerPixel.x),
                     base::TwipsToPixels(kFormHeightTwips, m_twipsPerPixel.y), nullptr, m_menuBar);
     CreateControls();
+    m_created = true;
     ApplyAll();
     m_model.SetView(this);
     LayOut();
@@ -337,6 +338,8 @@ LRESULT CALLBACK FrmMain::TabStripProcedure(HWND window, UINT message, WPARAM wP
 }
 
 LRESULT FrmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    // The system sizes the window and its controls report while they are being created.
+    if (!m_created) return base::Window::HandleMessage(message, wParam, lParam);
     switch (message) {
         case WM_SIZE:
             m_model.SetMinimised(wParam == SIZE_MINIMIZED);
