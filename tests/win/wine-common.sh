@@ -3,8 +3,8 @@
 #
 # A template prefix is built once (wineboot takes seconds) and cached; every user of Wine here gets a
 # copy of it (well under a second). The template is keyed by the Wine version and by the code that
-# makes it, so a change to either builds a new one. The Japanese locale is compiled into a private folder, so no
-# system-wide locale change is needed.
+# makes it, so a change to either builds a new one. The Japanese locale is compiled into a private
+# folder, so no system-wide locale change is needed.
 
 lookout_wine_cache=${LOOKOUT_WINE_CACHE:-${XDG_CACHE_HOME:-${HOME:-/tmp}/.cache}/veskar_lookout}
 
@@ -24,7 +24,7 @@ lookout_wine_environment() {
             if [[ ! -e $locale_dir/ja_JP.UTF-8/LC_CTYPE ]]; then
                 mkdir -p "$locale_dir"
                 # localedef exits 1 on mere warnings; the compiled files are what counts.
-                localedef -i ja_JP -f UTF-8 "$locale_dir/ja_JP.UTF-8" >/dev/null 2>&1
+                localedef -i ja_JP -f UTF-8 "$locale_dir/ja_JP.UTF-8" >/dev/null 2>&1 || true
                 [[ -e $locale_dir/ja_JP.UTF-8/LC_CTYPE ]] || lookout_die "localedef could not build ja_JP.UTF-8"
             fi
         ) 9>"$lookout_wine_cache/locale.lock" || exit 1
