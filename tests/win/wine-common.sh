@@ -145,8 +145,8 @@ lookout_wine_prefix_ensure() {
 # Stops every Wine process of the current WINEPREFIX and waits for its server to end.
 lookout_wine_stop() {
     [[ -n ${WINEPREFIX:-} && -d $WINEPREFIX ]] || return 0
-    wineserver -k >/dev/null 2>&1
-    wineserver -w >/dev/null 2>&1
+    wineserver -k >/dev/null 2>&1 || true # fails when no server runs
+    wineserver -w >/dev/null 2>&1 || true
     return 0
 }
 
@@ -173,7 +173,7 @@ lookout_start_x() {
 lookout_stop_x() {
     local pid
     for pid in ${lookout_openbox_pid:-} ${lookout_xvfb_pid:-}; do
-        kill "$pid" 2>/dev/null && wait "$pid" 2>/dev/null
+        { kill "$pid" && wait "$pid"; } 2>/dev/null || true # wait reports the signal that ended it
     done
     lookout_openbox_pid= lookout_xvfb_pid=
     return 0
