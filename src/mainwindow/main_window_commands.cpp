@@ -92,8 +92,8 @@ void MainWindowModel::ToolbarClick(std::string_view key) {
         if (command) command();
     };
     const auto buttons = ToolbarButtons();
-    const auto button = std::find_if(buttons.begin(), buttons.end(), [&](const auto& b) { return key == b.key; });
-    if (button == buttons.end() || !ButtonEnabled(key)) return;
+    if (std::none_of(buttons.begin(), buttons.end(), [&](const auto& b) { return key == b.key; })) return;
+    if (!ButtonEnabled(key)) return;
     if (key == "save") SaveMainMonitorAs();
     else if (key == "clear") call(m_commands.clearMainMonitor);
     else if (key == "run") call(m_commands.startMonitoring);

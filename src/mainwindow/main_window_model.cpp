@@ -27,7 +27,6 @@ MainWindowModel::MainWindowModel(const app::Program& program, Services services)
       m_buttonsEnabled(ToolbarButtons().size(), true) {
     m_panels[3] = app::IntervalPanelText(program.settings);
     m_panels[4] = std::string(Tab(1).countLabel) + std::to_string(List(ListId::lstvMain).RowCount());
-    for (const FormTimer timer : kTabTimers) m_timers[TimerIndex(timer)].interval = 0;
     // Only showing the applications tab enables the registration item of the pop-up menu.
     m_menus[Index(MenuItem::mnuTouroku)].enabled = false;
     ApplyMenuStateOf(1);
