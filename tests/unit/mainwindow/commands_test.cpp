@@ -182,18 +182,5 @@ TEST_F(CommandsTest, TheMainMonitorSaveWithoutDialog) {
     EXPECT_TRUE(dialogs.saveRequests.empty());
 }
 
-TEST_F(CommandsTest, TheViewHearsOfRealChangesOnly) {
-    model.SetCaption("Veskar_Lookout v1.01");
-    model.SetCaption("Veskar_Lookout v1.01");
-    model.SetPanelText(3, "ユーザ : someone");
-    model.SetComputerNameText("PC01");
-    model.SetVisible(true);
-    model.SetTrafficLabel(1, "0");
-    EXPECT_EQ(view.Count(Change::Caption), 1);
-    EXPECT_EQ(view.changes.back(), std::make_pair(Change::TrafficLabel, 1));
-    EXPECT_EQ(model.PanelText(3), "ユーザ : someone");
-    EXPECT_TRUE(model.Visible());
-}
-
 }  // namespace
 }  // namespace mainwindow
