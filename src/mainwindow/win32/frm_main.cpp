@@ -76,6 +76,8 @@ FrmMain::FrmMain(MainWindowModel& model)
 }
 
 FrmMain::~FrmMain() {
+    // The controls go one by one before the window: nothing they report may reach them.
+    m_created = false;
     m_model.SetView(nullptr);
     if (m_tabStrip) RemoveWindowSubclass(m_tabStrip, &FrmMain::TabStripProcedure, kTabStripSubclass);
 }

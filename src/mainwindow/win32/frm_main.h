@@ -83,7 +83,7 @@ private:
                                               UINT_PTR id, DWORD_PTR self);
 
     MainWindowModel& m_model;
-    bool m_created = false;  // every control exists
+    bool m_created = false;  // every control exists, and none is being destroyed
     base::TwipsPerPixel m_twipsPerPixel;
     ResizeRule m_sizes;
     base::UniqueMenu m_listPopup;
