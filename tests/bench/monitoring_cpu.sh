@@ -111,7 +111,7 @@ bench_begin() {
 # Processes of one prefix
 
 # True when the process belongs to the current Wine prefix (several runs use the same exe names).
-in_prefix() { tr '\0' '\n' <"/proc/$1/environ" 2>/dev/null | grep -qxF "WINEPREFIX=$WINEPREFIX"; }
+in_prefix() { tr '\0' '\n' 2>/dev/null <"/proc/$1/environ" | grep -qxF "WINEPREFIX=$WINEPREFIX"; }
 
 # Pids of the current prefix's processes whose name (as the kernel keeps it: 15 characters) is NAME.
 prefix_pids() { # NAME
@@ -138,7 +138,7 @@ cpu_sample() { # PID...
         read -r -a fields <<<"${stat##*) }" # from field 3 on: utime is field 14, stime 15
         ticks=$((ticks + fields[11] + fields[12]))
         for task in /proc/"$pid"/task/*; do
-            read -r run _ <"$task/schedstat" 2>/dev/null || continue
+            read -r run _ 2>/dev/null <"$task/schedstat" || continue
             ns=$((ns + run))
             threads+=",$pid/${task##*/}"
         done
