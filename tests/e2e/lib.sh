@@ -145,6 +145,23 @@ e2e_end_windows_session() {
     timeout 30 wine wineboot -e >/dev/null 2>&1 || fail "wineboot -e did not finish"
 }
 
+# Writes setting.ini as the program writes it (section main, the twelve keys in their order, CR LF),
+# with the values a missing file gets except where a KEY=VALUE argument says otherwise, e.g.
+# e2e_write_settings open=1 start=0.
+e2e_write_settings() {
+    local -A value=([time]=10 [open]=0 [start]=1 [packet]=1 [beep]=0 [logflag]=1 [backcolor]=16777215
+        [fontcolor]=0 [window]=1 [nc]= [front]=0 [app]=0)
+    local pair key text=$'[main]\r\n'
+    for pair in "$@"; do
+        [[ -v value[${pair%%=*}] ]] || fail "e2e_write_settings: unknown key in $pair"
+        value[${pair%%=*}]=${pair#*=}
+    done
+    for key in time open start packet beep logflag backcolor fontcolor window nc front app; do
+        text+="$key=${value[$key]}"$'\r\n'
+    done
+    printf '%s' "$text" >"$E2E_PROGRAM_DIR/setting.ini"
+}
+
 # The visual-styles manifest the program writes beside itself on its first start: its lines joined
 # by CR LF, none after the last; the processor architecture is the one of the executable, the
 # description its version information's Comments entry (empty without one).

@@ -7,8 +7,7 @@
 source "$(dirname "$0")/../lib.sh"
 e2e_begin
 
-printf '[main]\r\ntime=10\r\nopen=1\r\nstart=0\r\npacket=1\r\nbeep=0\r\nlogflag=0\r\nbackcolor=16777215\r\nfontcolor=0\r\nwindow=1\r\nnc=\r\nfront=0\r\napp=0\r\n' \
-    >"$E2E_PROGRAM_DIR/setting.ini"
+e2e_write_settings open=1 start=0 logflag=0
 e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
 today=$(date +%Y%m%d)
 # Today's append-save file is already past the limit; today's temporary file holds an old save.

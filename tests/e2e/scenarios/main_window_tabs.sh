@@ -6,8 +6,7 @@ source "$(dirname "$0")/../lib.sh"
 e2e_begin
 
 # Shown at start, monitoring off: only start-up writes into the window.
-printf '[main]\r\ntime=10\r\nopen=1\r\nstart=0\r\npacket=1\r\nbeep=0\r\nlogflag=0\r\nbackcolor=16777215\r\nfontcolor=0\r\nwindow=1\r\nnc=\r\nfront=0\r\napp=0\r\n' \
-    >"$E2E_PROGRAM_DIR/setting.ini"
+e2e_write_settings open=1 start=0 logflag=0
 e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
 e2e_start
 drive wait --title "$E2E_BANNER" --visible --timeout 20000 >/dev/null
