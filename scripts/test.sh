@@ -23,9 +23,11 @@ step() {
     echo "=== $* ($((SECONDS - started)) s)"
 }
 
-configure_and_build() { # PRESET
-    cmake --preset "$1" -B "$root/$1" >/dev/null
-    cmake --build "$root/$1" -j "$jobs"
+configure_and_build() { # PRESET [TARGET...]
+    local preset=$1
+    shift
+    cmake --preset "$preset" -B "$root/$preset" >/dev/null
+    cmake --build "$root/$preset" -j "$jobs" ${1:+--target "$@"}
 }
 
 step "setup"
@@ -45,7 +47,7 @@ step "windows-x86: build (compile and link only)"
 configure_and_build windows-x86
 
 step "bench: build"
-configure_and_build bench
+configure_and_build bench lookout_bench
 step "bench: run"
 mapfile -t benchmarks < <(find "$root/bench" -path "$root/bench/googletest" -prune -o \
     -type f -executable -name '*bench*' -print | sort)
