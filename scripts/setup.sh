@@ -5,6 +5,7 @@ set -euo pipefail
 
 packages=(
     cmake ninja-build g++ googletest libgtest-dev libbenchmark-dev  # native build, unit tests, benchmarks
+    ccache                                                          # rebuilds of unchanged sources are free
     g++-mingw-w64-x86-64 g++-mingw-w64-i686                         # the Windows builds
     wine wine64 fonts-wine                                          # running them (fonts-wine: captions)
     locales                                                         # ja_JP definitions for localedef
