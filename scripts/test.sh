@@ -27,6 +27,8 @@ step() {
 launcher=()
 if command -v ccache >/dev/null; then
     launcher=(-DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    # Paths relative to the source tree, so a fresh clone elsewhere (CI) still hits the cache.
+    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
 fi
 
 configure_and_build() { # PRESET [TARGET...]
