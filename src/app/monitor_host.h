@@ -29,8 +29,10 @@ public:
     virtual void FeedGraph(int index, float value) = 0;
     virtual void SetStatusPanel(int panel, const std::string& text) = 0;
 
-    // Timer1 at the given interval (0 leaves it idle) and Timer2, both on or both off.
+    // Timer1 at the given interval (0 leaves it idle).
     virtual void SetMonitoringTimers(bool enabled, unsigned timer1IntervalMs) = 0;
+    // Timer2, which disconnects the marked sessions.
+    virtual void SetDisconnectTimer(bool enabled) = 0;
     // Toolbar: while running the start button is off and the stop button on.
     virtual void SetRunButtons(bool running) = 0;
 

@@ -55,11 +55,13 @@ void MonitoringCycle::StartMonitoring() {
     m_host.SetRunButtons(true);
     m_host.MainMonitor().AddRow({base::MonitorStamp(m_clock.Now()) + " " + " 監視を開始しました。" + uptime});
     m_host.SetMonitoringTimers(true, Timer1Interval());
+    UpdateDisconnectTimer();
     UpdateTrayIcon();
 }
 
 void MonitoringCycle::StopMonitoring() {
     m_host.SetMonitoringTimers(false, 0);
+    m_host.SetDisconnectTimer(false);
     // Only the received side starts afresh: the first sent delta after a restart spans the
     // whole stopped time.
     m_program.traffic.receivedDelta.clear();
@@ -69,6 +71,8 @@ void MonitoringCycle::StopMonitoring() {
     m_host.MainMonitor().AddRow({base::MonitorStamp(m_clock.Now()) + " 監視を停止しました。"});
     UpdateTrayIcon();
 }
+
+void MonitoringCycle::UpdateDisconnectTimer() { m_host.SetDisconnectTimer(m_host.DisconnectList().RowCount() > 0); }
 
 void MonitoringCycle::UpdateTrayIcon() {
     TrayState& tray = m_program.tray;
@@ -117,6 +121,7 @@ void MonitoringCycle::SampleSide(std::uint32_t counter, std::string& now, std::s
 
 void MonitoringCycle::MonitoringStep() {
     const std::int16_t sessions = m_guard.Run(m_host.ComputerNameText());
+    UpdateDisconnectTimer();
 
     // The figure after "送信" is the received delta (label 0) and the one after "受信" the sent
     // delta (label 1), and an interval with nothing received writes no row.

@@ -38,6 +38,9 @@ private:
     void SampleTraffic();
     void SampleSide(std::uint32_t counter, std::string& now, std::string& delta, std::string& before, int side);
     void MonitoringStep();
+    // Timer2 runs while monitoring is on and a session is marked: a tick over an empty
+    // disconnection list would only wake the program.
+    void UpdateDisconnectTimer();
     void AnnounceSessions();
     unsigned Timer1Interval() const;
     std::string MonitoringTip() const;

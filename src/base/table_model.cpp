@@ -19,6 +19,7 @@ void TableModel::AddRow(std::vector<std::string> cells, int icon) {
 }
 
 void TableModel::Clear() {
+    if (m_rows.empty()) return;  // nothing for the view to redraw
     m_rows.clear();
     Changed();
 }

@@ -61,6 +61,7 @@ void Application::WireMainWindow() {
         },
     });
     m_model->SetTimerInterval(FormTimer::Timer2, kTimer2Interval);
+    m_model->SetTimerEnabled(FormTimer::Timer2, false);  // the monitoring switches it
     m_model->SetTimerHandler(FormTimer::Timer1, [this] { m_monitoring->Timer1Tick(); });
     m_model->SetTimerHandler(FormTimer::Timer2, [this] { m_monitoring->Timer2Tick(); });
     m_model->SetTabRefresh(6, [this] {
@@ -115,7 +116,10 @@ void Application::SetMonitoringTimers(bool enabled, unsigned timer1IntervalMs) {
     using mainwindow::FormTimer;
     m_model->SetTimerInterval(FormTimer::Timer1, static_cast<int>(std::min(timer1IntervalMs, 0x7FFFFFFFu)));
     m_model->SetTimerEnabled(FormTimer::Timer1, enabled);
-    m_model->SetTimerEnabled(FormTimer::Timer2, enabled);
+}
+
+void Application::SetDisconnectTimer(bool enabled) {
+    m_model->SetTimerEnabled(mainwindow::FormTimer::Timer2, enabled);
 }
 
 void Application::SetRunButtons(bool running) {

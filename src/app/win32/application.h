@@ -59,6 +59,7 @@ private:
     void SetTrafficLabel(int index, const std::string& text) override;
     void FeedGraph(int index, float value) override;
     void SetMonitoringTimers(bool enabled, unsigned timer1IntervalMs) override;
+    void SetDisconnectTimer(bool enabled) override;
     void SetRunButtons(bool running) override;
     void RaiseAlert(const std::string& text) override;
     void SaveMainMonitor() override;

@@ -77,6 +77,21 @@ TEST_F(MonitoringCycleTest, StartAndStopWriteTheirRowsAndSwitchTimersButtonsAndT
     EXPECT_EQ(tray.shown.back(), "C:\\L\\veskarnetoff.ico|Veskar_Lookout  －停止中－");
 }
 
+TEST_F(MonitoringCycleTest, DisconnectTimerRunsOnlyWhileASessionIsMarked) {
+    StartOnEth0();
+    cycle.Timer1Tick();
+    EXPECT_FALSE(host.disconnectTimerOn);
+    program.denyList[0] = "OK";
+    program.denyList[2] = "BAD";
+    net.steadySessions = ::fakes::FakeNetApi::Sessions({{"BAD", "eve", "W"}});
+    cycle.Timer1Tick();
+    EXPECT_TRUE(host.disconnectTimerOn);
+    cycle.StopMonitoring();
+    EXPECT_FALSE(host.disconnectTimerOn);
+    cycle.StartCommand();  // the marked row stays, so the disconnection goes on
+    EXPECT_TRUE(host.disconnectTimerOn);
+}
+
 TEST_F(MonitoringCycleTest, IntervalFollowsTheTimeSettingAndNonNumbersLeaveTheTimerIdle) {
     program.settings.time = "2.5";
     cycle.StartMonitoring();

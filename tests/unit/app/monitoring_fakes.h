@@ -31,6 +31,7 @@ public:
         timersOn = enabled;
         timer1Interval = interval;
     }
+    void SetDisconnectTimer(bool enabled) override { disconnectTimerOn = enabled; }
     void SetRunButtons(bool running) override { runButtonsShowRunning = running; }
     void RaiseAlert(const std::string& text) override { alerts.push_back(text); }
     void SaveMainMonitor() override {
@@ -50,6 +51,7 @@ public:
     std::map<int, std::string> panels;
     bool timersOn = false;
     unsigned timer1Interval = 0;
+    bool disconnectTimerOn = false;
     bool runButtonsShowRunning = false;
     std::vector<std::string> alerts;
     std::vector<std::size_t> savedRowCounts;
