@@ -103,7 +103,8 @@ GraphMove::~GraphMove() = default;
 
 bool GraphMove::setValue(float Value) {
     const bool accepted = m_model.setValue(Value);
-    if (accepted) InvalidateRect(m_picTrend->Handle(), nullptr, FALSE);
+    // A hidden graph is painted whole when it is shown; asking for it now only costs a round trip.
+    if (accepted && IsWindowVisible(m_picTrend->Handle())) InvalidateRect(m_picTrend->Handle(), nullptr, FALSE);
     return accepted;
 }
 
