@@ -90,7 +90,9 @@ void Application::OpenOptions() {
 }
 
 void Application::EndProgram() {
-    m_frmMain.reset();
+    // Called from inside the main window's own handlers: the window goes away with the
+    // application object, after the message loop has ended.
+    ShowWindow(m_frmMain->Handle(), SW_HIDE);
     PostQuitMessage(0);
 }
 
