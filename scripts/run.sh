@@ -48,9 +48,10 @@ if [[ -z ${DISPLAY:-} ]]; then
     echo "run.sh: headless screen $DISPLAY"
 fi
 
-start_program() { (cd "$program_dir" && exec wine ./veskar_lookout.exe) & }
+program_log=$(readlink -f "${build%/*}")/program.log
+start_program() { (cd "$program_dir" && exec wine ./veskar_lookout.exe) >>"$program_log" 2>&1 & }
 
-echo "run.sh: starting $program_dir/veskar_lookout.exe (Wine prefix $WINEPREFIX)"
+echo "run.sh: starting $program_dir/veskar_lookout.exe (Wine prefix $WINEPREFIX, output in $program_log)"
 start_program
 wine "$driver" wait --title "$banner" --timeout 60000 >/dev/null
 if ! wine "$driver" wait --title "$banner" --visible --timeout 0 >/dev/null 2>&1; then
