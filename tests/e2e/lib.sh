@@ -145,6 +145,14 @@ e2e_end_windows_session() {
     timeout 30 wine wineboot -e >/dev/null 2>&1 || fail "wineboot -e did not finish"
 }
 
+# Starts the program past its first-start restart (the manifest is written first) and waits until
+# its main window is shown; the settings must say open=1.
+e2e_start_shown() {
+    e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
+    e2e_start
+    drive wait --title "$E2E_BANNER" --visible --timeout 20000 >/dev/null
+}
+
 # Writes setting.ini as the program writes it (section main, the twelve keys in their order, CR LF),
 # with the values a missing file gets except where a KEY=VALUE argument says otherwise, e.g.
 # e2e_write_settings open=1 start=0.

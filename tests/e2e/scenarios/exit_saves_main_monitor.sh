@@ -4,9 +4,7 @@
 source "$(dirname "$0")/../lib.sh"
 e2e_begin
 e2e_write_settings open=1 start=1 logflag=1
-e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
-e2e_start
-drive wait --title "$E2E_BANNER" --visible --timeout 20000 >/dev/null
+e2e_start_shown
 exit_id=$(drive toolbar --title "$E2E_BANNER" | awk -F'\t' -v tip="${E2E_PRODUCT}を終了" '$5 == tip { print $2 }')
 [[ -n $exit_id ]] || fail "the toolbar has no exit button"
 

@@ -6,9 +6,7 @@ source "$(dirname "$0")/../lib.sh"
 e2e_begin
 
 e2e_write_settings open=1 start=0 logflag=0
-e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
-e2e_start
-drive wait --title "$E2E_BANNER" --visible --timeout 20000 >/dev/null
+e2e_start_shown
 window=(--title "$E2E_BANNER")
 
 # The window loads at 12775 x 5100 twips: 852 x 340 pixels at 96 DPI.

@@ -7,9 +7,7 @@ e2e_begin
 
 # Shown at start, monitoring off: only start-up writes into the window.
 e2e_write_settings open=1 start=0 logflag=0
-e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
-e2e_start
-drive wait --title "$E2E_BANNER" --visible --timeout 20000 >/dev/null
+e2e_start_shown
 window=(--title "$E2E_BANNER")
 
 tabs=$(drive tabs "${window[@]}")

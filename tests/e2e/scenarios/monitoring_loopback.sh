@@ -6,12 +6,9 @@ source "$(dirname "$0")/../lib.sh"
 e2e_begin
 
 # Linux gives the loopback interface the lowest index, so it is the first of the table: "0: lo".
-printf '[main]\r\ntime=1\r\nopen=1\r\nstart=1\r\npacket=1\r\nbeep=0\r\nlogflag=0\r\nbackcolor=16777215\r\nfontcolor=0\r\nwindow=1\r\nnc=0: lo\r\nfront=0\r\napp=0\r\n' \
-    >"$E2E_PROGRAM_DIR/setting.ini"
-e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
+e2e_write_settings time=1 open=1 start=1 logflag=0 "nc=0: lo"
 timeout 90 python3 "$E2E_SOURCE/tests/e2e/loopback_traffic.py" 40 &
-e2e_start
-drive wait --title "$E2E_BANNER" --visible --timeout 20000 >/dev/null
+e2e_start_shown
 
 rows() { drive listview-rows --title "$E2E_BANNER" --visible-control; }
 stamp='\[[0-9]{4}/[0-9]{2}/[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\]'

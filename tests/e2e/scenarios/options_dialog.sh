@@ -4,14 +4,9 @@
 # Cancel changes no file.
 source "$(dirname "$0")/../lib.sh"
 e2e_begin
-printf '[main]\r\ntime=10\r\nopen=1\r\nstart=0\r\npacket=1\r\nbeep=0\r\nlogflag=0\r\nbackcolor=16777215\r\nfontcolor=0\r\nwindow=1\r\nnc=\r\nfront=0\r\napp=0\r\n' \
-    >"$E2E_PROGRAM_DIR/setting.ini"
-printf '"OK"\r\n"最初の欄"\r\n"192.168.10.5"\r\n' >"$E2E_PROGRAM_DIR/pcset2.ini.utf8"
-iconv -f UTF-8 -t CP932 "$E2E_PROGRAM_DIR/pcset2.ini.utf8" >"$E2E_PROGRAM_DIR/pcset2.ini"
-rm "$E2E_PROGRAM_DIR/pcset2.ini.utf8"
-e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
-e2e_start
-drive wait --title "$E2E_BANNER" --visible --timeout 20000 >/dev/null
+e2e_write_settings open=1 start=0 logflag=0
+printf '"OK"\r\n"最初の欄"\r\n"192.168.10.5"\r\n' | iconv -f UTF-8 -t CP932 >"$E2E_PROGRAM_DIR/pcset2.ini"
+e2e_start_shown
 
 open_options() {
     drive menu-invoke "ツール(&T)" "全般的な設定...(&G)" --title "$E2E_BANNER"
