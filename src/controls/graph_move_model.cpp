@@ -99,6 +99,7 @@ void GraphMoveModel::InitProperties() {
     m_properties.GridStep = defaults.GridStep;
     m_properties.MaxValue = defaults.MaxValue;
     m_properties.MinValue = defaults.MinValue;
+    Picture();  // the picture keeps the values it was drawn with
     m_values.assign(1, 0.0f);
 }
 
@@ -116,7 +117,11 @@ void GraphMoveModel::WriteProperties(PropertyBag& bag) const {
 }
 
 void GraphMoveModel::SetProperties(const GraphProperties& properties) {
-    if (properties.BackColor != m_properties.BackColor) m_picture.clear();
+    if (properties.BackColor != m_properties.BackColor) {
+        m_drawing.reset();
+        m_picture.clear();
+        m_pictureStale = false;
+    }
     m_properties = properties;
 }
 
@@ -146,39 +151,51 @@ void GraphMoveModel::Resize(int widthPixels, int heightPixels) {
 }
 
 void GraphMoveModel::Redraw() {
-    m_picture.clear();
-    const float width = m_properties.innerWidth;
-    const float gridX = ConvertX(m_properties.GridSpaceX);
-    const float gridY = ConvertY(m_properties.GridSpaceY);
-    const float step = ConvertY(m_properties.GridStep);
-    DrawGrid(gridX, gridY);
-    m_scrollOffset += step;
-    if (m_scrollOffset > width) m_scrollOffset = 0;
-    DrawTrend(step);
+    Drawing drawing{.width = m_properties.innerWidth,
+                    .height = m_properties.innerHeight,
+                    .gridX = ConvertX(m_properties.GridSpaceX),
+                    .gridY = ConvertY(m_properties.GridSpaceY),
+                    .step = ConvertY(m_properties.GridStep),
+                    .minimum = m_properties.MinValue,
+                    .perValue = 0,
+                    .gridColour = m_properties.GridColor,
+                    .graphColour = m_properties.GraphColor};
+    // The grid's loops run now, without drawing, for the errors their counters raise.
+    ForEachGridLine(drawing, [](const GraphLine&) {});
+    m_scrollOffset += drawing.step;
+    if (m_scrollOffset > drawing.width) m_scrollOffset = 0;
+    if (m_values.size() >= 2) drawing.perValue = Divide(drawing.height, m_properties.MaxValue - drawing.minimum);
+    m_drawing = std::move(drawing);
+    m_pictureStale = true;
 }
 
-void GraphMoveModel::DrawGrid(float gridX, float gridY) {
-    const float width = m_properties.innerWidth;
-    const float height = m_properties.innerHeight;
-    const base::Colour colour = m_properties.GridColor;
-    const double spaceY = base::ToInt16(gridY);
-    ForInt16(height, 0, -spaceY, [&](float y) { m_picture.push_back({0, y, width, y, colour}); });
-    ForInt16(gridX - 1, width, gridX, [&](float x) { m_picture.push_back({x, 0, x, height, colour}); });
+const std::vector<GraphLine>& GraphMoveModel::Picture() const {
+    if (m_pictureStale) {
+        m_picture.clear();
+        ForEachGridLine(*m_drawing, [this](const GraphLine& line) { m_picture.push_back(line); });
+        DrawTrend(*m_drawing);
+        m_pictureStale = false;
+    }
+    return m_picture;
 }
 
-void GraphMoveModel::DrawTrend(float step) {
-    if (m_values.size() < 2) return;
-    const float width = m_properties.innerWidth;
-    const float height = m_properties.innerHeight;
-    const float minimum = m_properties.MinValue;
-    const float perValue = Divide(height, m_properties.MaxValue - minimum);
-    const std::size_t upper = m_values.size() - 1;
+template <typename Draw>
+void GraphMoveModel::ForEachGridLine(const Drawing& d, Draw draw) {
+    const double spaceY = base::ToInt16(d.gridY);
+    ForInt16(d.height, 0, -spaceY, [&](float y) { draw(GraphLine{0, y, d.width, y, d.gridColour}); });
+    ForInt16(d.gridX - 1, d.width, d.gridX, [&](float x) { draw(GraphLine{x, 0, x, d.height, d.gridColour}); });
+}
+
+void GraphMoveModel::DrawTrend(const Drawing& d) const {
+    const std::vector<float>& values = m_values;  // they change only through setValue, which redraws
+    if (values.size() < 2) return;
+    const std::size_t upper = values.size() - 1;
     for (std::size_t i = 1; i <= upper; ++i) {
-        const float x1 = width - step * static_cast<float>(upper - i + 1);
-        const float x2 = width - step * static_cast<float>(upper - i);
-        const float y1 = height - perValue * (m_values[i - 1] - minimum);
-        const float y2 = height - perValue * (m_values[i] - minimum);
-        m_picture.push_back({x1, y1, x2, y2, m_properties.GraphColor});
+        const float x1 = d.width - d.step * static_cast<float>(upper - i + 1);
+        const float x2 = d.width - d.step * static_cast<float>(upper - i);
+        const float y1 = d.height - d.perValue * (values[i - 1] - d.minimum);
+        const float y2 = d.height - d.perValue * (values[i] - d.minimum);
+        m_picture.push_back({x1, y1, x2, y2, d.graphColour});
     }
 }
 

@@ -5,6 +5,7 @@
 // measures are given in the control's scale mode and converted into that scale through the
 // client area's size, so the step and the grid follow the control when it is resized.
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -89,8 +90,10 @@ public:
 
     const std::vector<float>& Values() const { return m_values; }
     float ScrollOffset() const { return m_scrollOffset; }
-    // The lines of the last redraw, grid first, in drawing order.
-    const std::vector<GraphLine>& Picture() const { return m_picture; }
+    // The lines of the last redraw, grid first, in drawing order. A redraw only checks its
+    // measures; the lines are made here, when somebody looks, so that a graph nobody sees (the
+    // window hidden in the tray for days) costs no drawing per value.
+    const std::vector<GraphLine>& Picture() const;
 
     // Measures of the control's scale mode in picTrend's scale, horizontally and vertically.
     float ConvertX(float measure) const;
@@ -104,14 +107,23 @@ public:
     int ClientHeight() const { return m_clientHeight; }
 
 private:
-    void DrawGrid(float gridX, float gridY);
-    void DrawTrend(float step);
+    // What one redraw drew with: the measures in picTrend's scale and the colours of the time.
+    struct Drawing {
+        float width, height, gridX, gridY, step, minimum, perValue;
+        base::Colour gridColour, graphColour;
+    };
+
+    template <typename Draw>
+    static void ForEachGridLine(const Drawing& drawing, Draw draw);
+    void DrawTrend(const Drawing& drawing) const;
 
     base::TwipsPerPixel m_screen;
     GraphProperties m_properties;
     std::vector<float> m_values{0.0f};
     float m_scrollOffset = 0;
-    std::vector<GraphLine> m_picture;
+    std::optional<Drawing> m_drawing;  // none: the picture is erased
+    mutable std::vector<GraphLine> m_picture;
+    mutable bool m_pictureStale = false;
     int m_clientWidth;
     int m_clientHeight;
 };

@@ -48,6 +48,10 @@ TEST(Conversions, TextMustBeANumber) {
 
 TEST(Conversions, ValReadsTheLeadingNumberAndIgnoresBlanks) {
     EXPECT_EQ(Val("10"), 10);
+    EXPECT_EQ(Val("-999999999999999"), -999999999999999.0);
+    EXPECT_EQ(Val("+7"), 7);
+    EXPECT_EQ(Val("-"), 0);
+    EXPECT_EQ(Val("12345678901234567"), 12345678901234567.0);
     EXPECT_EQ(Val(" 1 2 3abc"), 123);
     EXPECT_EQ(Val("abc"), 0);
     EXPECT_EQ(Val(""), 0);

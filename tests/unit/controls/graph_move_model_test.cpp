@@ -222,7 +222,9 @@ TEST(GraphMove, NewBackColourErasesThePicture) {
     GraphProperties p = graph.Properties();
     p.GraphColor = base::Rgb(255, 0, 0);
     graph.SetProperties(p);
-    EXPECT_FALSE(graph.Picture().empty());
+    EXPECT_EQ(graph.Picture().back().colour, kTrend);  // drawn before the change
+    graph.Redraw();
+    EXPECT_EQ(graph.Picture().back().colour, base::Rgb(255, 0, 0));
     p.BackColor = base::kBlack;
     graph.SetProperties(p);
     EXPECT_TRUE(graph.Picture().empty());
@@ -301,8 +303,12 @@ TEST(GraphMoveProperties, StoredTextThatIsNoNumberIsATypeMismatch) {
 TEST(GraphMoveProperties, InitPropertiesResetsTheGridRangeAndValues) {
     GraphMoveModel graph = SmallGraph();
     graph.setValue(7);
+    const std::vector<GraphLine> drawn = graph.Picture();
+    graph.setValue(8);
     graph.InitProperties();
     EXPECT_EQ(graph.Values(), std::vector<float>{0.0f});
+    EXPECT_NE(graph.Picture(), drawn);
+    EXPECT_EQ(graph.Picture().back(), (GraphLine{100, 22.5f, 150, 15, kTrend}));  // the picture stays until a redraw
     EXPECT_EQ(graph.Properties().GridStep, 2.0f);
     EXPECT_EQ(graph.Properties().MaxValue, 100.0f);
     EXPECT_EQ(graph.Properties().GridColor, kGrid);
