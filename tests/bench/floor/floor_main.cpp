@@ -1,7 +1,8 @@
 // lookout_floor: the least a monitoring tick can cost. A hidden window whose one-second timer makes
 // the operating-system calls of the program's Timer1 tick and nothing else: the fresh counters of
 // the loopback interface, the share sessions of this PC (with the client-name lookups the program
-// makes for each), the files other users hold open. tests/bench/monitoring_cpu.sh compares the
+// makes for each, and the pass over waiting window messages it must make after every enumeration
+// call), the files other users hold open. tests/bench/monitoring_cpu.sh compares the
 // program's CPU time with this one's.
 //
 //   lookout_floor.exe              tick until the window "lookout_floor" is closed
@@ -118,7 +119,20 @@ private:
                 }
             }
             if (buffer) NetApiBufferFree(buffer);
+            PumpMessages();
         } while (read != total);
+    }
+
+    static void PumpMessages() {
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            if (message.message == WM_QUIT) {
+                PostQuitMessage(static_cast<int>(message.wParam));
+                return;
+            }
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
     }
 
     static void EnumOpenFiles() {
