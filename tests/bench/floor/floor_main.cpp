@@ -25,6 +25,7 @@
 #include "base/win32/wide.h"
 #include "base/win32/window.h"
 #include "platform/win32/ip_helper.h"
+#include "platform/win32/message_pump.h"
 
 namespace {
 
@@ -119,20 +120,8 @@ private:
                 }
             }
             if (buffer) NetApiBufferFree(buffer);
-            PumpMessages();
+            m_pump.DoEvents();
         } while (read != total);
-    }
-
-    static void PumpMessages() {
-        MSG message;
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            if (message.message == WM_QUIT) {
-                PostQuitMessage(static_cast<int>(message.wParam));
-                return;
-            }
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
-        }
     }
 
     static void EnumOpenFiles() {
@@ -148,6 +137,7 @@ private:
 
     std::uint32_t m_interfaceIndex;
     std::wstring m_computerName;
+    platform::win32::MessagePump m_pump;
 };
 
 std::wstring ComputerName() {
