@@ -128,7 +128,7 @@ std::optional<double> PlainWhole(std::string_view text) {
         if (text[i] < '0' || text[i] > '9') return std::nullopt;
         value = value * 10 + (text[i] - '0');
     }
-    return static_cast<double>(text[0] == '-' ? -value : value);
+    return text[0] == '-' ? -static_cast<double>(value) : static_cast<double>(value);  // "-0" stays -0
 }
 }  // namespace
 
