@@ -19,11 +19,12 @@ public:
     virtual base::TableModel& SessionList() = 0;
     virtual base::TableModel& DisconnectList() = 0;
 
-    virtual std::string ComputerNameText() = 0;
-    virtual std::string SelectedInterfaceText() = 0;
+    // The texts live as long as the window; a tick reads them without copying.
+    virtual const std::string& ComputerNameText() = 0;
+    virtual const std::string& SelectedInterfaceText() = 0;
     virtual void SetSelectedInterfaceText(const std::string& text) = 0;
     // The two traffic labels: 0 received, 1 sent.
-    virtual std::string TrafficLabel(int index) = 0;
+    virtual const std::string& TrafficLabel(int index) = 0;
     virtual void SetTrafficLabel(int index, const std::string& text) = 0;
     // setValue of the received (0) or sent (1) graph.
     virtual void FeedGraph(int index, float value) = 0;

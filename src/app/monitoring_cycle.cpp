@@ -6,14 +6,12 @@
 #include "app/traffic_text.h"
 #include "app/uptime.h"
 #include "base/conversions.h"
+#include "base/hot_path.h"
 #include "base/local_time.h"
-#include "base/product.h"
 
 namespace app {
 namespace {
 
-constexpr const char* kIconOff = "veskarnetoff.ico";
-constexpr const char* kIconOn = "veskarneton.ico";
 constexpr double kGraphClip = 100000;
 
 }  // namespace
@@ -21,8 +19,6 @@ constexpr double kGraphClip = 100000;
 MonitoringCycle::MonitoringCycle(Program& program, IMonitorHost& host, platform::IClock& clock,
                                  platform::IIpHelper& ipHelper, platform::ITrayIcon& trayIcon, SessionGuard& guard)
     : m_program(program), m_host(host), m_clock(clock), m_ipHelper(ipHelper), m_trayIcon(trayIcon), m_guard(guard) {}
-
-std::string MonitoringCycle::MonitoringTip() const { return std::string(base::kProductName) + "  －監視中－"; }
 
 std::string MonitoringCycle::IconPath(const std::string& iconFile) const { return m_program.folder + iconFile; }
 
@@ -66,15 +62,17 @@ void MonitoringCycle::StopMonitoring() {
     // whole stopped time.
     m_program.traffic.receivedDelta.clear();
     m_program.tray.currentIcon = kIconOff;
-    m_program.tray.tip = std::string(base::kProductName) + "  －停止中－";
+    m_program.tray.tip = StoppedTip();
     m_host.SetRunButtons(false);
     m_host.MainMonitor().AddRow({base::MonitorStamp(m_clock.Now()) + " 監視を停止しました。"});
     UpdateTrayIcon();
 }
 
-void MonitoringCycle::UpdateDisconnectTimer() { m_host.SetDisconnectTimer(m_host.DisconnectList().RowCount() > 0); }
+LOOKOUT_HOT void MonitoringCycle::UpdateDisconnectTimer() {
+    m_host.SetDisconnectTimer(m_host.DisconnectList().RowCount() > 0);
+}
 
-void MonitoringCycle::UpdateTrayIcon() {
+LOOKOUT_HOT void MonitoringCycle::UpdateTrayIcon() {
     TrayState& tray = m_program.tray;
     if (tray.currentIcon == tray.shownIcon && tray.tip == m_shownTip) return;
     m_trayIcon.Show(IconPath(tray.currentIcon), tray.tip);
@@ -82,28 +80,28 @@ void MonitoringCycle::UpdateTrayIcon() {
     m_shownTip = tray.tip;
 }
 
-void MonitoringCycle::Timer1Tick() {
+LOOKOUT_HOT void MonitoringCycle::Timer1Tick() {
     SampleTraffic();
     MonitoringStep();
     m_guard.LogOpenFiles();
 }
 
-void MonitoringCycle::SampleTraffic() {
+LOOKOUT_HOT void MonitoringCycle::SampleTraffic() {
     // The row is chosen by the first character of the label alone, so only rows 0 to 9 can
     // be monitored and "12: ..." selects row 1. A row the table lacks reads as a vanished
     // interface: counters 0.
-    const std::string label = m_host.SelectedInterfaceText();
-    const auto position = static_cast<std::size_t>(base::Val(label.substr(0, 1)));
-    std::optional<platform::InterfaceRow> row;
-    if (position < m_interfaces.size()) row = m_ipHelper.InterfaceEntry(m_interfaces[position].index);
-    const platform::InterfaceRow counters = row.value_or(platform::InterfaceRow{});
+    const std::string& label = m_host.SelectedInterfaceText();
+    const auto position = static_cast<std::size_t>(base::Val(std::string_view(label).substr(0, 1)));
+    std::optional<platform::InterfaceCounters> fresh;
+    if (position < m_interfaces.size()) fresh = m_ipHelper.Counters(m_interfaces[position].index);
+    const platform::InterfaceCounters counters = fresh.value_or(platform::InterfaceCounters{});
     TrafficState& t = m_program.traffic;
     SampleSide(counters.inOctets, t.receivedNow, t.receivedDelta, t.receivedBefore, 0);
     SampleSide(counters.outOctets, t.sentNow, t.sentDelta, t.sentBefore, 1);
 }
 
-void MonitoringCycle::SampleSide(std::uint32_t counter, std::string& now, std::string& delta, std::string& before,
-                                 int side) {
+LOOKOUT_HOT void MonitoringCycle::SampleSide(std::uint32_t counter, std::string& now, std::string& delta,
+                                             std::string& before, int side) {
     now = std::to_string(static_cast<std::int32_t>(counter));
     if (delta.empty()) {
         before = now;
@@ -119,7 +117,7 @@ void MonitoringCycle::SampleSide(std::uint32_t counter, std::string& now, std::s
     before = now;
 }
 
-void MonitoringCycle::MonitoringStep() {
+LOOKOUT_HOT void MonitoringCycle::MonitoringStep() {
     const std::int16_t sessions = m_guard.Run(m_host.ComputerNameText());
     UpdateDisconnectTimer();
 
@@ -141,7 +139,7 @@ void MonitoringCycle::MonitoringStep() {
     UpdateTrayIcon();
 }
 
-void MonitoringCycle::AnnounceSessions() {
+LOOKOUT_HOT void MonitoringCycle::AnnounceSessions() {
     const base::TableModel& sessions = m_host.SessionList();
     if (sessions.RowCount() == m_announcedSessions) return;
     m_announcedSessions = sessions.RowCount();

@@ -43,7 +43,6 @@ private:
     void UpdateDisconnectTimer();
     void AnnounceSessions();
     unsigned Timer1Interval() const;
-    std::string MonitoringTip() const;
     std::string IconPath(const std::string& iconFile) const;
 
     Program& m_program;

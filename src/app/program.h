@@ -4,6 +4,7 @@
 
 #include "app/pc_list.h"
 #include "app/settings.h"
+#include "base/product.h"
 
 namespace app {
 
@@ -14,9 +15,23 @@ struct TrafficState {
     std::string sentNow, sentDelta, sentBefore;
 };
 
+// The tray's two icon files, and its tips while monitoring runs with no session and after it stops.
+inline constexpr const char* kIconOff = "veskarnetoff.ico";
+inline constexpr const char* kIconOn = "veskarneton.ico";
+
+inline const std::string& MonitoringTip() {
+    static const std::string tip = std::string(base::kProductName) + "  －監視中－";
+    return tip;
+}
+
+inline const std::string& StoppedTip() {
+    static const std::string tip = std::string(base::kProductName) + "  －停止中－";
+    return tip;
+}
+
 struct TrayState {
-    std::string currentIcon = "veskarnetoff.ico";
-    std::string shownIcon = "veskarnetoff.ico";
+    std::string currentIcon = kIconOff;
+    std::string shownIcon = kIconOff;
     std::string tip;
 };
 

@@ -3,6 +3,7 @@
 #include "app/traffic_text.h"
 #include "base/conversions.h"
 #include "base/fixed_array.h"
+#include "base/hot_path.h"
 #include "base/local_time.h"
 #include "base/product.h"
 
@@ -31,7 +32,7 @@ SessionGuard::SessionGuard(Program& program, IMonitorHost& host, platform::INetA
 
 std::string SessionGuard::Stamp() { return base::MonitorStamp(m_clock.Now()); }
 
-std::int16_t SessionGuard::Run(const std::string& server) {
+LOOKOUT_HOT std::int16_t SessionGuard::Run(const std::string& server) {
     std::int16_t count = 0;
     // The clients of one tick are kept in 100 slots: a 101st session raises the subscript error.
     base::FixedArray<std::string, 0, 99> clients;
@@ -56,12 +57,15 @@ std::int16_t SessionGuard::Run(const std::string& server) {
     } while (batch.entriesRead != batch.totalEntries);
 
     if (count == 0) {
-        m_program.tray.currentIcon = "veskarnetoff.ico";
-        m_program.tray.tip = std::string(base::kProductName) + "  －監視中－";
+        m_program.tray.currentIcon = kIconOff;
+        m_program.tray.tip = MonitoringTip();
     } else {
-        m_program.tray.currentIcon = "veskarneton.ico";
+        m_program.tray.currentIcon = kIconOn;
     }
-    m_host.SetStatusPanel(2, "サーバ : " + server);
+    if (m_panelServer != server) {
+        m_host.SetStatusPanel(2, "サーバ : " + server);
+        m_panelServer = server;
+    }
     return count;
 }
 
@@ -106,7 +110,7 @@ void SessionGuard::DisconnectMarked() {
     }
 }
 
-void SessionGuard::LogOpenFiles() {
+LOOKOUT_HOT void SessionGuard::LogOpenFiles() {
     std::vector<platform::OpenFileInfo> files;
     std::uintptr_t resume = 0;
     platform::FileBatch batch;

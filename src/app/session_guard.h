@@ -3,6 +3,7 @@
 // this PC's shares, records them in the main monitor, beeps, and marks the PCs that break
 // the enforced deny or allow list for disconnection.
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "app/client_lookup.h"
@@ -39,6 +40,7 @@ private:
     IClientLookup& m_lookup;
     platform::IBeeper& m_beeper;
     platform::IClock& m_clock;
+    std::optional<std::string> m_panelServer;  // what panel 2 names; written again only when it changes
 };
 
 }  // namespace app

@@ -42,8 +42,8 @@ StartupOutcome RunStartup(Program& program, StartupServices& s, IStartupHost& ho
     host.AddMainMonitorRow(base::kBanner);
     if (const auto name = s.system.ComputerName()) host.SetComputerNameText(*name);
 
-    program.tray.currentIcon = "veskarnetoff.ico";
-    program.tray.shownIcon = "veskarnetoff.ico";
+    program.tray.currentIcon = kIconOff;
+    program.tray.shownIcon = kIconOff;
 
     if (program.settings.open == "1") host.ShowMainWindow();
     if (program.settings.start == 1) host.StartMonitoring();

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 
+#include "base/hot_path.h"
 #include "base/runtime_error.h"
 
 namespace base {
@@ -48,13 +49,13 @@ std::optional<double> ParseHex(std::string_view digits, bool negative) {
 
 }  // namespace
 
-double RoundHalfEven(double value) { return value - std::remainder(value, 1.0); }
+LOOKOUT_HOT double RoundHalfEven(double value) { return value - std::remainder(value, 1.0); }
 
-std::int16_t ToInt16(double value) { return ToWhole<std::int16_t>(value); }
+LOOKOUT_HOT std::int16_t ToInt16(double value) { return ToWhole<std::int16_t>(value); }
 std::uint8_t ToByte(double value) { return ToWhole<std::uint8_t>(value); }
 std::int32_t ToInt32(double value) { return ToWhole<std::int32_t>(value); }
 
-float ToSingle(double value) {
+LOOKOUT_HOT float ToSingle(double value) {
     if (std::isfinite(value) && std::fabs(value) > std::numeric_limits<float>::max()) {
         throw RuntimeError(RuntimeErrorNumber::Overflow);
     }
@@ -132,7 +133,7 @@ std::optional<double> PlainWhole(std::string_view text) {
 }
 }  // namespace
 
-double Val(std::string_view text) {
+LOOKOUT_HOT double Val(std::string_view text) {
     if (const auto whole = PlainWhole(text)) return *whole;
     std::string packed;
     for (char c : text) {
@@ -165,7 +166,7 @@ double Val(std::string_view text) {
     return std::strtod(number.c_str(), nullptr);
 }
 
-std::string NumberText(double value) {
+LOOKOUT_HOT std::string NumberText(double value) {
     if (value == 0) return "0";
     if (value == std::floor(value) && std::fabs(value) < 1e15) return std::to_string(static_cast<std::int64_t>(value));
     char buffer[40];

@@ -1,5 +1,7 @@
 #include "base/table_model.h"
 
+#include "base/hot_path.h"
+
 namespace base {
 namespace {
 const std::string kEmpty;
@@ -18,7 +20,7 @@ void TableModel::AddRow(std::vector<std::string> cells, int icon) {
     Changed();
 }
 
-void TableModel::Clear() {
+LOOKOUT_HOT void TableModel::Clear() {
     if (m_rows.empty()) return;  // nothing for the view to redraw
     m_rows.clear();
     Changed();

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "base/conversions.h"
+#include "base/hot_path.h"
 #include "base/runtime_error.h"
 
 namespace controls {
@@ -125,7 +126,7 @@ void GraphMoveModel::SetProperties(const GraphProperties& properties) {
     m_properties = properties;
 }
 
-bool GraphMoveModel::setValue(float Value) {
+LOOKOUT_HOT bool GraphMoveModel::setValue(float Value) {
     if (Value > m_properties.MaxValue || Value < m_properties.MinValue) return false;
     const float step = ConvertY(m_properties.GridStep);
     const float capacity = Divide(m_properties.innerWidth, step);
@@ -150,7 +151,7 @@ void GraphMoveModel::Resize(int widthPixels, int heightPixels) {
     Redraw();
 }
 
-void GraphMoveModel::Redraw() {
+LOOKOUT_HOT void GraphMoveModel::Redraw() {
     Drawing drawing{.width = m_properties.innerWidth,
                     .height = m_properties.innerHeight,
                     .gridX = ConvertX(m_properties.GridSpaceX),

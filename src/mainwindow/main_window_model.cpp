@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "app/settings.h"
+#include "base/hot_path.h"
 #include "mainwindow/toolbar_buttons.h"
 
 namespace mainwindow {
@@ -48,7 +49,7 @@ const std::string& MainWindowModel::PanelText(int panel) const {
     return m_panels.at(static_cast<std::size_t>(panel - 1));
 }
 
-void MainWindowModel::SetPanelText(int panel, std::string text) {
+LOOKOUT_HOT void MainWindowModel::SetPanelText(int panel, std::string text) {
     if (Store(m_panels.at(static_cast<std::size_t>(panel - 1)), std::move(text))) Notify(Change::Panel, panel);
 }
 
@@ -56,11 +57,11 @@ void MainWindowModel::SetVisible(bool visible) {
     if (Store(m_visible, visible)) Notify(Change::Visible);
 }
 
-const std::string& MainWindowModel::TrafficLabel(int index) const {
+LOOKOUT_HOT const std::string& MainWindowModel::TrafficLabel(int index) const {
     return m_trafficLabels.at(static_cast<std::size_t>(index));
 }
 
-void MainWindowModel::SetTrafficLabel(int index, std::string text) {
+LOOKOUT_HOT void MainWindowModel::SetTrafficLabel(int index, std::string text) {
     if (Store(m_trafficLabels.at(static_cast<std::size_t>(index)), std::move(text))) {
         Notify(Change::TrafficLabel, index);
     }
@@ -85,7 +86,7 @@ void MainWindowModel::SetTimerInterval(FormTimer timer, int milliseconds) {
     Notify(Change::Timer, TimerIndex(timer));
 }
 
-void MainWindowModel::SetTimerEnabled(FormTimer timer, bool enabled) {
+LOOKOUT_HOT void MainWindowModel::SetTimerEnabled(FormTimer timer, bool enabled) {
     if (Store(m_timers[TimerIndex(timer)].enabled, enabled)) Notify(Change::Timer, TimerIndex(timer));
 }
 
@@ -93,7 +94,7 @@ void MainWindowModel::SetTimerHandler(FormTimer timer, std::function<void()> han
     m_timers[TimerIndex(timer)].handler = std::move(handler);
 }
 
-void MainWindowModel::TimerTick(FormTimer timer) {
+LOOKOUT_HOT void MainWindowModel::TimerTick(FormTimer timer) {
     const auto& state = m_timers[TimerIndex(timer)];
     if (TimerRunning(timer) && state.handler) state.handler();
 }

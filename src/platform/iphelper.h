@@ -15,6 +15,12 @@ struct InterfaceRow {
     std::uint32_t outOctets = 0;
 };
 
+// One interface's traffic counters, read fresh at every monitoring tick.
+struct InterfaceCounters {
+    std::uint32_t inOctets = 0;
+    std::uint32_t outOctets = 0;
+};
+
 // What SendARP left behind.
 struct ArpReply {
     std::uint32_t result = 0;               // the call's result, 0 on success
@@ -27,8 +33,9 @@ public:
     virtual ~IIpHelper() = default;
     // GetIfTable, sorted by index; empty when the call fails.
     virtual std::vector<InterfaceRow> InterfaceTable() = 0;
-    // GetIfEntry for one index; nothing when the call fails (the interface vanished).
-    virtual std::optional<InterfaceRow> InterfaceEntry(std::uint32_t index) = 0;
+    // GetIfEntry for one index, its counters only; nothing when the call fails (the
+    // interface vanished).
+    virtual std::optional<InterfaceCounters> Counters(std::uint32_t index) = 0;
     // SendARP to an IPv4 address in network byte order (as inet_addr gives it), source 0,
     // an 8-byte buffer and a length of 6 on entry.
     virtual ArpReply SendArp(std::uint32_t destination) = 0;

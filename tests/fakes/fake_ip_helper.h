@@ -10,9 +10,9 @@ namespace fakes {
 class FakeIpHelper : public platform::IIpHelper {
 public:
     std::vector<platform::InterfaceRow> InterfaceTable() override { return interfaces; }
-    std::optional<platform::InterfaceRow> InterfaceEntry(std::uint32_t index) override {
+    std::optional<platform::InterfaceCounters> Counters(std::uint32_t index) override {
         for (const auto& row : interfaces) {
-            if (row.index == index) return row;
+            if (row.index == index) return platform::InterfaceCounters{row.inOctets, row.outOctets};
         }
         return std::nullopt;
     }

@@ -31,6 +31,15 @@ TEST(TextEncoding, CharactersOutsideCodePage932BecomeQuestionMarks) {
     EXPECT_EQ(base::AnsiToUtf8(""), "");
 }
 
+TEST(TextEncoding, Utf16ConversionsAgreeOnBothSidesOfAscii) {
+    EXPECT_EQ(base::Widen(std::string_view("a\0\x7f", 3)), std::wstring(L"a\0\x7f", 3));
+    EXPECT_EQ(base::Widen("\xc2\x80"), L"\x80");
+    EXPECT_EQ(base::Widen("ab監視"), L"ab\x76e3\x8996");
+    EXPECT_EQ(base::Narrow(std::wstring_view(L"a\0\x7f", 3)), std::string("a\0\x7f", 3));
+    EXPECT_EQ(base::Narrow(L"\x80"), "\xc2\x80");
+    EXPECT_EQ(base::Narrow(L"ab\x76e3\x8996"), "ab監視");
+}
+
 class JapaneseFolder : public ::testing::Test {
 protected:
     void SetUp() override {

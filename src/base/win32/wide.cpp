@@ -2,6 +2,11 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <type_traits>
+
+#include "base/hot_path.h"
+
 namespace base {
 
 std::wstring ToWide(std::string_view text, unsigned codePage) {
@@ -23,7 +28,22 @@ std::string FromWide(std::wstring_view wide, unsigned codePage) {
     return text;
 }
 
-std::wstring Widen(std::string_view utf8) { return ToWide(utf8, CP_UTF8); }
-std::string Narrow(std::wstring_view wide) { return FromWide(wide, CP_UTF8); }
+// Plain ASCII, most of what a monitoring tick converts, reads the same in UTF-8 and UTF-16
+// and is copied as it is: the code-page functions cost many times more.
+template <typename Char>
+bool IsAscii(std::basic_string_view<Char> text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](Char c) { return static_cast<std::make_unsigned_t<Char>>(c) < 0x80; });
+}
+
+LOOKOUT_HOT std::wstring Widen(std::string_view utf8) {
+    if (IsAscii(utf8)) return std::wstring(utf8.begin(), utf8.end());
+    return ToWide(utf8, CP_UTF8);
+}
+
+LOOKOUT_HOT std::string Narrow(std::wstring_view wide) {
+    if (IsAscii(wide)) return std::string(wide.begin(), wide.end());
+    return FromWide(wide, CP_UTF8);
+}
 
 }  // namespace base

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include "base/hot_path.h"
 #include "base/win32/colour.h"
 #include "base/win32/fatal_error.h"
 #include "base/win32/wide.h"
@@ -101,7 +102,7 @@ GraphMove::GraphMove(HWND parent, const RECT& bounds, int id, const PropertyBag*
 
 GraphMove::~GraphMove() = default;
 
-bool GraphMove::setValue(float Value) {
+LOOKOUT_HOT bool GraphMove::setValue(float Value) {
     const bool accepted = m_model.setValue(Value);
     // A hidden graph is painted whole when it is shown; asking for it now only costs a round trip.
     if (accepted && IsWindowVisible(m_picTrend->Handle())) InvalidateRect(m_picTrend->Handle(), nullptr, FALSE);

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/hot_path.h"
 #include "base/text_encoding.h"
 
 namespace platform::win32 {
@@ -42,11 +43,11 @@ std::vector<InterfaceRow> IpHelper::InterfaceTable() {
     return rows;
 }
 
-std::optional<InterfaceRow> IpHelper::InterfaceEntry(std::uint32_t index) {
+LOOKOUT_HOT std::optional<InterfaceCounters> IpHelper::Counters(std::uint32_t index) {
     MIB_IFROW row{};
     row.dwIndex = index;
     if (GetIfEntry(&row) != NO_ERROR) return std::nullopt;
-    return Row(row);
+    return InterfaceCounters{row.dwInOctets, row.dwOutOctets};
 }
 
 ArpReply IpHelper::SendArp(std::uint32_t destination) {

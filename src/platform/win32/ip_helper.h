@@ -6,7 +6,7 @@ namespace platform::win32 {
 class IpHelper : public IIpHelper {
 public:
     std::vector<InterfaceRow> InterfaceTable() override;
-    std::optional<InterfaceRow> InterfaceEntry(std::uint32_t index) override;
+    std::optional<InterfaceCounters> Counters(std::uint32_t index) override;
     ArpReply SendArp(std::uint32_t destination) override;
 };
 

@@ -2,9 +2,11 @@
 
 #include <windows.h>
 
+#include "base/hot_path.h"
+
 namespace platform::win32 {
 
-void MessagePump::DoEvents() {
+LOOKOUT_HOT void MessagePump::DoEvents() {
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) {

@@ -3,6 +3,7 @@
 #include <windows.h>
 #include <lm.h>
 
+#include "base/hot_path.h"
 #include "base/win32/wide.h"
 
 namespace platform::win32 {
@@ -33,14 +34,18 @@ bool Answered(NET_API_STATUS status) { return status == NERR_Success || status =
 
 }  // namespace
 
-SessionBatch NetApi::EnumSessions(const std::string& server, std::uint32_t& resume) {
-    std::wstring name = base::Widen(server);
+LOOKOUT_HOT SessionBatch NetApi::EnumSessions(const std::string& server, std::uint32_t& resume) {
+    if (m_server != server) {
+        m_wideServer = base::Widen(server);
+        m_server = server;
+    }
     NetApiBuffer buffer;
     // Some systems answer without writing the counts: start them at 0 so the caller's loop ends.
     DWORD read = 0, total = 0, resumeHandle = resume;
     SessionBatch batch;
-    batch.status = NetSessionEnum(name.empty() ? nullptr : name.data(), nullptr, nullptr, 2, buffer.Out(),
-                                  MAX_PREFERRED_LENGTH, &read, &total, &resumeHandle);
+    LPWSTR serverName = m_wideServer.empty() ? nullptr : m_wideServer.data();
+    batch.status = NetSessionEnum(serverName, nullptr, nullptr, 2, buffer.Out(), MAX_PREFERRED_LENGTH, &read, &total,
+                                  &resumeHandle);
     resume = resumeHandle;
     batch.entriesRead = read;
     batch.totalEntries = total;
@@ -60,7 +65,7 @@ std::uint32_t NetApi::DeleteSession(const std::string& clientName, const std::st
     return NetSessionDel(nullptr, client.data(), user.empty() ? nullptr : user.data());
 }
 
-FileBatch NetApi::EnumOpenFiles(std::uintptr_t& resume) {
+LOOKOUT_HOT FileBatch NetApi::EnumOpenFiles(std::uintptr_t& resume) {
     NetApiBuffer buffer;
     DWORD read = 0, total = 0;
     DWORD_PTR resumeHandle = resume;

@@ -17,13 +17,13 @@ public:
     base::TableModel& MainMonitor() override { return mainMonitor; }
     base::TableModel& SessionList() override { return sessionList; }
     base::TableModel& DisconnectList() override { return disconnectList; }
-    std::string ComputerNameText() override { return computerName; }
-    std::string SelectedInterfaceText() override { return selectedInterface; }
+    const std::string& ComputerNameText() override { return computerName; }
+    const std::string& SelectedInterfaceText() override { return selectedInterface; }
     void SetSelectedInterfaceText(const std::string& text) override {
         selectedInterface = text;
         ++interfaceLabelWrites;
     }
-    std::string TrafficLabel(int index) override { return labels[index]; }
+    const std::string& TrafficLabel(int index) override { return labels[index]; }
     void SetTrafficLabel(int index, const std::string& text) override { labels[index] = text; }
     void FeedGraph(int index, float value) override { graphs[index].push_back(value); }
     void SetStatusPanel(int panel, const std::string& text) override { panels[panel] = text; }

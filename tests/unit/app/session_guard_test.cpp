@@ -62,10 +62,12 @@ TEST_F(SessionGuardTest, EachSessionWithAUserGetsARowAndNullSessionsAreIgnored) 
     EXPECT_EQ(host.panels[2], "サーバ : SERVER");
     EXPECT_EQ(host.disconnectList.RowCount(), 0u);  // both lists off: never disconnected
 
-    // Every tick re-enumerates: an open session is logged and beeped again.
-    guard.Run("SERVER");
+    // Every tick re-enumerates: an open session is logged and beeped again; a renamed
+    // server shows on panel 2.
+    guard.Run("RENAMED");
     EXPECT_EQ(beeper.beeps, 4);
     EXPECT_EQ(host.sessionList.RowCount(), 2u);
+    EXPECT_EQ(host.panels[2], "サーバ : RENAMED");
 }
 
 TEST_F(SessionGuardTest, WinsockThatDoesNotStartLeavesTheRawNames) {
