@@ -13,8 +13,10 @@
 # and X servers share the machine's last processor: a tick is mostly round trips to wineserver, and
 # what one costs depends on whether the two ends sit on one processor or two, which the scheduler
 # would otherwise choose anew for every run. A run of a few hundredths of a second of CPU still
-# varies by up to 15 % from copy to copy, so the ratio is that of the means; how far the copies of
-# one exe differ is printed beside it.
+# varies by up to 15 % from copy to copy, and the ratio of one set of processes by several percent
+# from set to set (where their memory lands counts: a tick pays for each page it touches), so
+# BENCH_ROUNDS (3) rounds each start fresh processes, and the ratio is that of the means over all
+# runs. Each round's ratio, and how far the runs of one exe differ, are printed beside it.
 # --floors-only runs the floors alone (the program need not be built): a check of the noise. The
 # work folder BUILD_DIR/tests/bench/work/monitoring_cpu keeps the program folders and their output.
 #
@@ -41,6 +43,7 @@ seconds=${BENCH_SECONDS:-60}
 target=1.1                      # what monitoring may cost against the floor
 limit=${BENCH_LIMIT:-$target}   # where this run fails
 copies=${BENCH_COPIES:-3} # runs of each exe, measured side by side
+rounds=${BENCH_ROUNDS:-3} # rounds of them, each with fresh processes
 settle=${BENCH_SETTLE:-5} # seconds from the last run being up to the window: start-up work, first ticks
 
 floor_exe=$build/tests/bench/lookout_floor.exe
@@ -108,7 +111,7 @@ bench_begin() {
     trap bench_cleanup EXIT
     trap 'fail "interrupted"' INT TERM
     trap 'fail "timed out"' USR1
-    (sleep $((seconds + 120)) && kill -USR1 $$ 2>/dev/null) >/dev/null 2>&1 &
+    (sleep $((rounds * (seconds + 120))) && kill -USR1 $$ 2>/dev/null) >/dev/null 2>&1 &
     bench_watchdog_pid=$!
     rm -rf "$work"
     mkdir -p "$work"
@@ -166,7 +169,7 @@ cpu_seconds() { # FIRST SECOND
             return
         fi
     done
-    awk -v a="${first[1]}" -v b="${second[1]}" 'BEGIN { printf "%.3f threads\n", (b - a) / 1e9 }'
+    awk -v a="${first[1]}" -v b="${second[1]}" 'BEGIN { printf "%.4f threads\n", (b - a) / 1e9 }'
 }
 
 # ---------------------------------------------------------------------------------------------
@@ -236,7 +239,7 @@ sample_run() { # NAME first|second
 }
 
 report() { # NAME
-    printf '%-24s CPU %6.3f s in %s s (%s of %s process(es); wineserver %6.3f s, desktop %6.3f s)\n' \
+    printf '%-24s CPU %6.4f s in %s s (%s of %s process(es); wineserver %6.3f s, desktop %6.3f s)\n' \
         "$1 (${run_exe[$1]})" "${run_cpu[$1]}" "$seconds" "${run_figure[$1]}" "${run_processes[$1]}" \
         "${run_server[$1]}" "${run_desktop[$1]}"
 }
@@ -244,7 +247,7 @@ report() { # NAME
 # The mean CPU time of the runs.
 mean_cpu() { # NAME...
     local name
-    for name; do echo "${run_cpu[$name]}"; done | awk '{ sum += $1 } END { printf "%.3f", sum / NR }'
+    for name; do echo "${run_cpu[$name]}"; done | awk '{ sum += $1 } END { printf "%.4f", sum / NR }'
 }
 
 # The highest CPU time of the runs over the lowest: how far copies of one exe differ.
@@ -257,49 +260,71 @@ spread() { # NAME...
 
 # ---------------------------------------------------------------------------------------------
 
+# One round: fresh sessions and processes for PROGRAMS and FLOORS, measured over one window.
+measure_round() { # PROGRAM_RUNS FLOOR_RUNS (names of the runs, comma-separated)
+    local round_programs round_floors name children
+    IFS=, read -r -a round_programs <<<"$1"
+    IFS=, read -r -a round_floors <<<"$2"
+    local round_runs=("${round_programs[@]}" "${round_floors[@]}")
+    for name in "${round_runs[@]}"; do open_session "$name"; done
+
+    if [[ -z ${nc:-} ]]; then
+        use_session "${round_floors[0]}"
+        nc=$(loopback_text)
+        e2e_log "loopback interface \"$nc\"; $rounds round(s) of $copies copies of each exe; windows of $seconds s"
+    fi
+    e2e_log "runs: ${round_runs[*]}"
+    for name in "${round_programs[@]}"; do
+        prepare_program_folder "$work/$name" "$nc"
+        start_run "$name" "$E2E_PROCESS" "$E2E_BANNER"
+    done
+    for name in "${round_floors[@]}"; do
+        cp "$floor_exe" "$work/$name/"
+        start_run "$name" lookout_floor.exe "$floor_title"
+    done
+
+    sleep "$settle"
+    for name in "${round_runs[@]}"; do sample_run "$name" first; done
+    sleep "$seconds"
+    for name in "${round_runs[@]}"; do sample_run "$name" second; done
+
+    for name in "${round_programs[@]}"; do
+        # Monitoring ran on the interface asked for: the selected-interface label shows its text.
+        use_session "$name"
+        children=$(drive children --title "$E2E_BANNER")
+        grep -qF -- "$nc" <<<"$children" || e2e_log "warning: no control of the main window shows \"$nc\""
+    done
+    close_sessions
+}
+
+ratio_of() { # A B
+    awk -v a="$1" -v b="$2" 'BEGIN { if (b <= 0) print "inf"; else printf "%.2f", a / b }'
+}
+
 bench_begin
-programs=() floors=()
-for ((copy = 1; copy <= copies; ++copy)); do
-    ((!with_program)) || programs+=("program-$copy")
-    floors+=("floor-$copy")
-done
-runs=("${programs[@]}" "${floors[@]}")
-for name in "${runs[@]}"; do open_session "$name"; done
-
-use_session "${floors[0]}"
-nc=$(loopback_text)
-e2e_log "loopback interface \"$nc\"; runs: ${runs[*]}; a window of $seconds s"
-
-for name in "${programs[@]}"; do
-    prepare_program_folder "$work/$name" "$nc"
-    start_run "$name" "$E2E_PROCESS" "$E2E_BANNER"
-done
-for name in "${floors[@]}"; do
-    cp "$floor_exe" "$work/$name/"
-    start_run "$name" lookout_floor.exe "$floor_title"
+programs=() floors=() round_ratios=()
+for ((round = 1; round <= rounds; ++round)); do
+    round_programs=() round_floors=()
+    for ((copy = 1; copy <= copies; ++copy)); do
+        ((!with_program)) || round_programs+=("program-$round.$copy")
+        round_floors+=("floor-$round.$copy")
+    done
+    measure_round "$(IFS=,; echo "${round_programs[*]}")" "$(IFS=,; echo "${round_floors[*]}")"
+    programs+=("${round_programs[@]}") floors+=("${round_floors[@]}")
+    ((!with_program)) ||
+        round_ratios+=("$(ratio_of "$(mean_cpu "${round_programs[@]}")" "$(mean_cpu "${round_floors[@]}")")")
 done
 
-sleep "$settle"
-for name in "${runs[@]}"; do sample_run "$name" first; done
-sleep "$seconds"
-for name in "${runs[@]}"; do sample_run "$name" second; done
-
-for name in "${programs[@]}"; do
-    # Monitoring ran on the interface asked for: the selected-interface label shows its text.
-    use_session "$name"
-    children=$(drive children --title "$E2E_BANNER")
-    grep -qF -- "$nc" <<<"$children" || e2e_log "warning: no control of the main window shows \"$nc\""
-done
-close_sessions
-
-for name in "${runs[@]}"; do report "$name"; done
+for name in "${programs[@]}" "${floors[@]}"; do report "$name"; done
+runs_text="mean of $copies copies x $rounds round(s)"
 floor_cpu=$(mean_cpu "${floors[@]}")
-echo "floor: $floor_cpu s (mean of $copies); highest over lowest: $(spread "${floors[@]}")"
+echo "floor: $floor_cpu s ($runs_text); highest over lowest: $(spread "${floors[@]}")"
 ((with_program)) || exit 0
 program_cpu=$(mean_cpu "${programs[@]}")
-echo "program: $program_cpu s (mean of $copies); highest over lowest: $(spread "${programs[@]}")"
+echo "program: $program_cpu s ($runs_text); highest over lowest: $(spread "${programs[@]}")"
+echo "ratio of each round: ${round_ratios[*]}"
 
-ratio=$(awk -v a="$program_cpu" -v b="$floor_cpu" 'BEGIN { if (b <= 0) print "inf"; else printf "%.2f", a / b }')
+ratio=$(ratio_of "$program_cpu" "$floor_cpu")
 echo "ratio: $ratio (target $target, fails above $limit)"
 awk -v r="$ratio" -v t="$target" 'BEGIN { exit !(r != "inf" && r + 0 > t + 0) }' &&
     echo "monitoring_cpu: above its target of $target"
