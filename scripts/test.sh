@@ -64,10 +64,10 @@ for program in "${benchmarks[@]}"; do
     "$program"
 done
 [[ ${#benchmarks[@]} -gt 0 ]] || echo "(no benchmark programs built)"
-# The program's monitoring against its floor under Wine. Identical copies still differ by up to 15%
-# from run to run, so CI fails only on a gross regression; the ratio against its target of 1.1 is
-# printed for the report.
-BENCH_LIMIT=2.0 bash tests/bench/monitoring_cpu.sh "$root/windows-x64"
+# The program's monitoring against its floor under Wine. Over three rounds the ratio has moved
+# between 1.06 and 1.10, single rounds between 1.04 and 1.17, so CI fails only on a clear regression;
+# the ratio against its target of 1.1 is printed for the report.
+BENCH_LIMIT=1.3 bash tests/bench/monitoring_cpu.sh "$root/windows-x64"
 
 trap - ERR
 echo
