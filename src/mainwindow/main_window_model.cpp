@@ -49,7 +49,7 @@ const std::string& MainWindowModel::PanelText(int panel) const {
     return m_panels.at(static_cast<std::size_t>(panel - 1));
 }
 
-LOOKOUT_HOT void MainWindowModel::SetPanelText(int panel, std::string text) {
+void MainWindowModel::SetPanelText(int panel, std::string text) {
     if (Store(m_panels.at(static_cast<std::size_t>(panel - 1)), std::move(text))) Notify(Change::Panel, panel);
 }
 

@@ -101,7 +101,7 @@ void Application::AddMainMonitorRow(const std::string& text) { m_model->AddMonit
 void Application::SetComputerNameText(const std::string& name) { m_model->SetComputerNameText(name); }
 void Application::ShowMainWindow() { m_model->SetVisible(true); }
 void Application::StartMonitoring() { m_monitoring->StartMonitoring(); }
-LOOKOUT_HOT void Application::SetStatusPanel(int panel, const std::string& text) { m_model->SetPanelText(panel, text); }
+void Application::SetStatusPanel(int panel, const std::string& text) { m_model->SetPanelText(panel, text); }
 
 // --- The monitoring cycle's view of the window
 

@@ -28,8 +28,9 @@ std::string FromWide(std::wstring_view wide, unsigned codePage) {
     return text;
 }
 
-// Plain ASCII, most of what a monitoring tick converts, reads the same in UTF-8 and UTF-16
-// and is copied as it is: the code-page functions cost many times more.
+// Plain ASCII, most of what the program converts (the traffic figures of every tick among it),
+// reads the same in UTF-8 and UTF-16 and is copied as it is: the code-page functions cost many
+// times more.
 template <typename Char>
 bool IsAscii(std::basic_string_view<Char> text) {
     return std::all_of(text.begin(), text.end(),
@@ -41,7 +42,7 @@ LOOKOUT_HOT std::wstring Widen(std::string_view utf8) {
     return ToWide(utf8, CP_UTF8);
 }
 
-LOOKOUT_HOT std::string Narrow(std::wstring_view wide) {
+std::string Narrow(std::wstring_view wide) {
     if (IsAscii(wide)) return std::string(wide.begin(), wide.end());
     return FromWide(wide, CP_UTF8);
 }
