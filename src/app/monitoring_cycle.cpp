@@ -20,7 +20,9 @@ MonitoringCycle::MonitoringCycle(Program& program, IMonitorHost& host, platform:
                                  platform::IIpHelper& ipHelper, platform::ITrayIcon& trayIcon, SessionGuard& guard)
     : m_program(program), m_host(host), m_clock(clock), m_ipHelper(ipHelper), m_trayIcon(trayIcon), m_guard(guard) {}
 
-std::string MonitoringCycle::IconPath(const std::string& iconFile) const { return m_program.folder + iconFile; }
+LOOKOUT_COLD std::string MonitoringCycle::IconPath(const std::string& iconFile) const {
+    return m_program.folder + iconFile;
+}
 
 unsigned MonitoringCycle::Timer1Interval() const {
     // A "time" of 0 or one that is no number gives 0, which leaves the timer idle.
@@ -124,11 +126,10 @@ LOOKOUT_HOT void MonitoringCycle::MonitoringStep() {
     // The figure after "送信" is the received delta (label 0) and the one after "受信" the sent
     // delta (label 1), and an interval with nothing received writes no row.
     const std::string received = m_host.TrafficLabel(0);
-    if (m_program.settings.packet == 1 && base::Val(received) != 0) {
-        m_host.MainMonitor().AddRow({base::MonitorStamp(m_clock.Now()) + "  送信 : " + KilobyteFigure(received) +
-                                     " KB" + "  受信 : " + KilobyteFigure(m_host.TrafficLabel(1)) + " KB"});
+    if (m_program.settings.packet == 1 && base::Val(received) != 0) AddTrafficRow(received);
+    if (m_program.settings.window == 1 && m_host.SessionList().RowCount() != m_announcedSessions) {
+        AnnounceSessions();
     }
-    if (m_program.settings.window == 1) AnnounceSessions();
 
     if (sessions > 0) {
         m_program.tray.currentIcon = kIconOn;
@@ -139,9 +140,13 @@ LOOKOUT_HOT void MonitoringCycle::MonitoringStep() {
     UpdateTrayIcon();
 }
 
-LOOKOUT_HOT void MonitoringCycle::AnnounceSessions() {
+LOOKOUT_COLD void MonitoringCycle::AddTrafficRow(const std::string& received) {
+    m_host.MainMonitor().AddRow({base::MonitorStamp(m_clock.Now()) + "  送信 : " + KilobyteFigure(received) + " KB" +
+                                 "  受信 : " + KilobyteFigure(m_host.TrafficLabel(1)) + " KB"});
+}
+
+LOOKOUT_COLD void MonitoringCycle::AnnounceSessions() {
     const base::TableModel& sessions = m_host.SessionList();
-    if (sessions.RowCount() == m_announcedSessions) return;
     m_announcedSessions = sessions.RowCount();
     for (std::size_t row = 0; row < sessions.RowCount(); ++row) {
         m_host.RaiseAlert("[マシン名]\r\n" + sessions.Cell(row, 0) + "\r\n[ユーザ名]\r\n" + sessions.Cell(row, 1));

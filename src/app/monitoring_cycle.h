@@ -41,6 +41,9 @@ private:
     // Timer2 runs while monitoring is on and a session is marked: a tick over an empty
     // disconnection list would only wake the program.
     void UpdateDisconnectTimer();
+    // The traffic row of a tick that received something.
+    void AddTrafficRow(const std::string& received);
+    // One alert per session when the number of sessions has changed.
     void AnnounceSessions();
     unsigned Timer1Interval() const;
     std::string IconPath(const std::string& iconFile) const;

@@ -62,14 +62,16 @@ LOOKOUT_HOT std::int16_t SessionGuard::Run(const std::string& server) {
     } else {
         m_program.tray.currentIcon = kIconOn;
     }
-    if (m_panelServer != server) {
-        m_host.SetStatusPanel(2, "サーバ : " + server);
-        m_panelServer = server;
-    }
+    if (m_panelServer != server) ShowServer(server);
     return count;
 }
 
-void SessionGuard::RecordSession(const platform::SessionInfo& session) {
+LOOKOUT_COLD void SessionGuard::ShowServer(const std::string& server) {
+    m_host.SetStatusPanel(2, "サーバ : " + server);
+    m_panelServer = server;
+}
+
+LOOKOUT_COLD void SessionGuard::RecordSession(const platform::SessionInfo& session) {
     const std::string& client = session.clientName;
     std::string address = client;
     std::string hostName = client;
@@ -120,16 +122,23 @@ LOOKOUT_HOT void SessionGuard::LogOpenFiles() {
         files.insert(files.end(), batch.records.begin(), batch.records.end());
     } while (batch.status == platform::kErrorMoreData);
 
+    if (!files.empty()) AddOpenFileRows(files);
+    if (m_host.MainMonitor().RowCount() > kAutosaveRows) AutosaveMainMonitor();
+}
+
+LOOKOUT_COLD void SessionGuard::AddOpenFileRows(const std::vector<platform::OpenFileInfo>& files) {
     base::TableModel& monitor = m_host.MainMonitor();
     for (const auto& file : files) {
         monitor.AddRow({Stamp() + "  使用中のファイル : " + file.pathName + " USER : " + file.userName});
     }
-    if (monitor.RowCount() > kAutosaveRows) {
-        m_host.SaveMainMonitor();
-        monitor.Clear();
-        monitor.AddRow({base::kBanner});
-        monitor.AddRow({Stamp() + "  ログを自動保存しました。"});
-    }
+}
+
+LOOKOUT_COLD void SessionGuard::AutosaveMainMonitor() {
+    base::TableModel& monitor = m_host.MainMonitor();
+    m_host.SaveMainMonitor();
+    monitor.Clear();
+    monitor.AddRow({base::kBanner});
+    monitor.AddRow({Stamp() + "  ログを自動保存しました。"});
 }
 
 }  // namespace app

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "app/client_lookup.h"
 #include "app/monitor_host.h"
@@ -29,7 +30,12 @@ public:
     void LogOpenFiles();
 
 private:
+    // Panel 2 names the server; it is written again only when the name changes.
+    void ShowServer(const std::string& server);
     void RecordSession(const platform::SessionInfo& session);
+    void AddOpenFileRows(const std::vector<platform::OpenFileInfo>& files);
+    // Past 10000 rows: the main monitor is saved and starts again with the banner.
+    void AutosaveMainMonitor();
     void CheckLists(const std::string& client, const std::string& user);
     void MarkForDisconnection(const char* reason, const std::string& client, const std::string& user);
     std::string Stamp();
@@ -40,7 +46,7 @@ private:
     IClientLookup& m_lookup;
     platform::IBeeper& m_beeper;
     platform::IClock& m_clock;
-    std::optional<std::string> m_panelServer;  // what panel 2 names; written again only when it changes
+    std::optional<std::string> m_panelServer;  // the server panel 2 names
 };
 
 }  // namespace app

@@ -32,6 +32,17 @@ std::string Text(LPCWSTR text) { return text ? base::Narrow(text) : std::string(
 
 bool Answered(NET_API_STATUS status) { return status == NERR_Success || status == ERROR_MORE_DATA; }
 
+LOOKOUT_COLD void AddSessions(const SESSION_INFO_2* records, DWORD count, std::vector<SessionInfo>& to) {
+    for (DWORD i = 0; i < count; ++i) {
+        const SESSION_INFO_2& record = records[i];
+        to.push_back({Text(record.sesi2_cname), Text(record.sesi2_username), Text(record.sesi2_cltype_name)});
+    }
+}
+
+LOOKOUT_COLD void AddFiles(const FILE_INFO_3* records, DWORD count, std::vector<OpenFileInfo>& to) {
+    for (DWORD i = 0; i < count; ++i) to.push_back({Text(records[i].fi3_pathname), Text(records[i].fi3_username)});
+}
+
 }  // namespace
 
 LOOKOUT_HOT SessionBatch NetApi::EnumSessions(const std::string& server, std::uint32_t& resume) {
@@ -49,12 +60,8 @@ LOOKOUT_HOT SessionBatch NetApi::EnumSessions(const std::string& server, std::ui
     resume = resumeHandle;
     batch.entriesRead = read;
     batch.totalEntries = total;
-    if (Answered(batch.status) && buffer.As<SESSION_INFO_2>()) {
-        const auto* records = buffer.As<SESSION_INFO_2>();
-        for (DWORD i = 0; i < read; ++i) {
-            batch.records.push_back(
-                {Text(records[i].sesi2_cname), Text(records[i].sesi2_username), Text(records[i].sesi2_cltype_name)});
-        }
+    if (Answered(batch.status) && buffer.As<SESSION_INFO_2>() && read > 0) {
+        AddSessions(buffer.As<SESSION_INFO_2>(), read, batch.records);
     }
     return batch;
 }
@@ -73,11 +80,8 @@ LOOKOUT_HOT FileBatch NetApi::EnumOpenFiles(std::uintptr_t& resume) {
     batch.status = NetFileEnum(nullptr, nullptr, nullptr, 3, buffer.Out(), MAX_PREFERRED_LENGTH, &read, &total,
                                &resumeHandle);
     resume = resumeHandle;
-    if (Answered(batch.status) && buffer.As<FILE_INFO_3>()) {
-        const auto* records = buffer.As<FILE_INFO_3>();
-        for (DWORD i = 0; i < read; ++i) {
-            batch.records.push_back({Text(records[i].fi3_pathname), Text(records[i].fi3_username)});
-        }
+    if (Answered(batch.status) && buffer.As<FILE_INFO_3>() && read > 0) {
+        AddFiles(buffer.As<FILE_INFO_3>(), read, batch.records);
     }
     return batch;
 }
