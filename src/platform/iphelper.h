@@ -11,8 +11,6 @@ namespace platform {
 struct InterfaceRow {
     std::uint32_t index = 0;    // dwIndex
     std::string description;    // bDescr, cut to its stated length, as UTF-8
-    std::uint32_t inOctets = 0;
-    std::uint32_t outOctets = 0;
 };
 
 // One interface's traffic counters, read fresh at every monitoring tick.

@@ -12,7 +12,9 @@ public:
     std::vector<platform::InterfaceRow> InterfaceTable() override { return interfaces; }
     std::optional<platform::InterfaceCounters> Counters(std::uint32_t index) override {
         for (const auto& row : interfaces) {
-            if (row.index == index) return platform::InterfaceCounters{row.inOctets, row.outOctets};
+            if (row.index != index) continue;
+            const auto found = counters.find(index);
+            return found == counters.end() ? platform::InterfaceCounters{} : found->second;
         }
         return std::nullopt;
     }
@@ -31,6 +33,7 @@ public:
     }
 
     std::vector<platform::InterfaceRow> interfaces;
+    std::map<std::uint32_t, platform::InterfaceCounters> counters;  // by index; none reads 0
     std::map<std::uint32_t, platform::ArpReply> arpReplies;
     platform::ArpReply unknownReply{67, {}, 0};  // ERROR_BAD_NET_NAME: nobody answered
     std::vector<std::uint32_t> arpRequests;

@@ -19,8 +19,7 @@ InterfaceRow Row(const MIB_IFROW& row) {
     const std::size_t length = std::min<std::size_t>(row.dwDescrLen, MAXLEN_IFDESCR);
     std::string_view text(reinterpret_cast<const char*>(row.bDescr), length);
     text = text.substr(0, text.find('\0'));
-    return {row.dwIndex, base::AnsiToUtf8(text),
-            row.dwInOctets, row.dwOutOctets};
+    return {row.dwIndex, base::AnsiToUtf8(text)};
 }
 
 }  // namespace

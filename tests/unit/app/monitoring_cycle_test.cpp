@@ -24,12 +24,12 @@ protected:
         program.settings = DefaultSettings();
         program.settings.time = "1";
         program.allowList[0] = program.denyList[0] = "NG";
-        ipHelper.interfaces = {{1, "lo", 0, 0}, {2, "eth0", 1000, 5000}};
+        ipHelper.interfaces = {{1, "lo"}, {2, "eth0"}};
+        SetCounters(1000, 5000);
     }
 
     void SetCounters(std::uint32_t in, std::uint32_t out) {
-        ipHelper.interfaces[1].inOctets = in;
-        ipHelper.interfaces[1].outOctets = out;
+        ipHelper.counters[2] = {in, out};  // eth0
     }
     // The cycle started from the toolbar on interface 1 ("1: eth0").
     void StartOnEth0() {
@@ -169,7 +169,7 @@ TEST_F(MonitoringCycleTest, SentDeltaSpansAStopWhileTheReceivedSideStartsAfresh)
 TEST_F(MonitoringCycleTest, OnlyTheFirstCharacterOfTheLabelSelectsTheRow) {
     cycle.LoadInterfaces();
     ipHelper.interfaces.resize(13);
-    for (std::uint32_t i = 2; i < 13; ++i) ipHelper.interfaces[i] = {i + 1, "if", 0, 0};
+    for (std::uint32_t i = 2; i < 13; ++i) ipHelper.interfaces[i] = {i + 1, "if"};
     cycle.LoadInterfaces();
     host.selectedInterface = "12: if";  // selects row 1, eth0
     cycle.StartCommand();
