@@ -271,11 +271,18 @@ spread() { # NAME...
 
 # ---------------------------------------------------------------------------------------------
 
-# One round: fresh sessions and processes for PROGRAMS and FLOORS, measured over one window.
-measure_round() { # PROGRAM_RUNS FLOOR_RUNS (names of the runs, comma-separated)
-    local round_programs round_floors name children
-    IFS=, read -r -a round_programs <<<"$1"
-    IFS=, read -r -a round_floors <<<"$2"
+ratio_of() { # A B
+    awk -v a="$1" -v b="$2" 'BEGIN { if (b <= 0) print "inf"; else printf "%.2f", a / b }'
+}
+
+# One round: fresh sessions and processes for the copies of each exe, measured over one window.
+# Their runs join programs and floors, and the round's ratio joins round_ratios.
+measure_round() { # ROUND
+    local round_programs=() round_floors=() copy name children
+    for ((copy = 1; copy <= copies; ++copy)); do
+        ((!with_program)) || round_programs+=("program-$1.$copy")
+        round_floors+=("floor-$1.$copy")
+    done
     local round_runs=("${round_programs[@]}" "${round_floors[@]}")
     for name in "${round_runs[@]}"; do open_session "$name"; done
 
@@ -306,25 +313,15 @@ measure_round() { # PROGRAM_RUNS FLOOR_RUNS (names of the runs, comma-separated)
         grep -qF -- "$nc" <<<"$children" || e2e_log "warning: no control of the main window shows \"$nc\""
     done
     close_sessions
-}
 
-ratio_of() { # A B
-    awk -v a="$1" -v b="$2" 'BEGIN { if (b <= 0) print "inf"; else printf "%.2f", a / b }'
+    programs+=("${round_programs[@]}") floors+=("${round_floors[@]}")
+    ((!with_program)) ||
+        round_ratios+=("$(ratio_of "$(mean_cpu "${round_programs[@]}")" "$(mean_cpu "${round_floors[@]}")")")
 }
 
 bench_begin
 programs=() floors=() round_ratios=()
-for ((round = 1; round <= rounds; ++round)); do
-    round_programs=() round_floors=()
-    for ((copy = 1; copy <= copies; ++copy)); do
-        ((!with_program)) || round_programs+=("program-$round.$copy")
-        round_floors+=("floor-$round.$copy")
-    done
-    measure_round "$(IFS=,; echo "${round_programs[*]}")" "$(IFS=,; echo "${round_floors[*]}")"
-    programs+=("${round_programs[@]}") floors+=("${round_floors[@]}")
-    ((!with_program)) ||
-        round_ratios+=("$(ratio_of "$(mean_cpu "${round_programs[@]}")" "$(mean_cpu "${round_floors[@]}")")")
-done
+for ((round = 1; round <= rounds; ++round)); do measure_round "$round"; done
 
 for name in "${programs[@]}" "${floors[@]}"; do report "$name"; done
 runs_text="mean of $copies copies x $rounds round(s)"
