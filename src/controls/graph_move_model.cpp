@@ -101,7 +101,8 @@ void GraphMoveModel::InitProperties() {
     m_properties.MaxValue = defaults.MaxValue;
     m_properties.MinValue = defaults.MinValue;
     Picture();  // the picture keeps the values it was drawn with
-    m_values.assign(1, 0.0f);
+    m_store.assign(1, 0.0f);
+    m_first = 0;
 }
 
 void GraphMoveModel::ReadProperties(const PropertyBag& bag) {
@@ -130,15 +131,30 @@ LOOKOUT_HOT bool GraphMoveModel::setValue(float Value) {
     if (Value > m_properties.MaxValue || Value < m_properties.MinValue) return false;
     const float step = ConvertY(m_properties.GridStep);
     const float capacity = Divide(m_properties.innerWidth, step);
-    const auto upperBound = m_values.size() - 1;
+    const auto upperBound = Series().size() - 1;
     if (static_cast<double>(capacity) <= static_cast<double>(upperBound)) {
-        std::copy(m_values.begin() + 1, m_values.end(), m_values.begin());
+        DropOldestAndAppend(Value);
     } else {
-        m_values.push_back(0.0f);
+        m_store.push_back(Value);
     }
-    m_values.back() = Value;
     Redraw();
     return true;
+}
+
+LOOKOUT_HOT void GraphMoveModel::DropOldestAndAppend(float value) {
+    ++m_first;
+    m_store.push_back(value);
+    // The dropped values are let go of once there are as many of them as retained ones: one copy
+    // of the series per series' length of values.
+    if (m_first >= m_store.size() - m_first) {
+        m_store.erase(m_store.begin(), m_store.begin() + static_cast<std::ptrdiff_t>(m_first));
+        m_first = 0;
+    }
+}
+
+std::vector<float> GraphMoveModel::Values() const {
+    const std::span<const float> series = Series();
+    return {series.begin(), series.end()};
 }
 
 void GraphMoveModel::SetClientSize(int widthPixels, int heightPixels) {
@@ -165,7 +181,7 @@ LOOKOUT_HOT void GraphMoveModel::Redraw() {
     ForEachGridLine(drawing, [](const GraphLine&) {});
     m_scrollOffset += drawing.step;
     if (m_scrollOffset > drawing.width) m_scrollOffset = 0;
-    if (m_values.size() >= 2) drawing.perValue = Divide(drawing.height, m_properties.MaxValue - drawing.minimum);
+    if (Series().size() >= 2) drawing.perValue = Divide(drawing.height, m_properties.MaxValue - drawing.minimum);
     m_drawing = std::move(drawing);
     m_pictureStale = true;
 }
@@ -188,7 +204,7 @@ void GraphMoveModel::ForEachGridLine(const Drawing& d, Draw draw) {
 }
 
 void GraphMoveModel::DrawTrend(const Drawing& d) const {
-    const std::vector<float>& values = m_values;  // they change only through setValue, which redraws
+    const std::span<const float> values = Series();  // they change only through setValue, which redraws
     if (values.size() < 2) return;
     const std::size_t upper = values.size() - 1;
     for (std::size_t i = 1; i <= upper; ++i) {

@@ -6,6 +6,7 @@
 // client area's size, so the step and the grid follow the control when it is resized.
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -88,7 +89,8 @@ public:
     void Resize(int widthPixels, int heightPixels);
     void Redraw();
 
-    const std::vector<float>& Values() const { return m_values; }
+    // The retained values, oldest first.
+    std::vector<float> Values() const;
     float ScrollOffset() const { return m_scrollOffset; }
     // The lines of the last redraw, grid first, in drawing order. A redraw only checks its
     // measures; the lines are made here, when somebody looks, so that a graph nobody sees (the
@@ -116,10 +118,15 @@ private:
     template <typename Draw>
     static void ForEachGridLine(const Drawing& drawing, Draw draw);
     void DrawTrend(const Drawing& drawing) const;
+    std::span<const float> Series() const { return std::span<const float>(m_store).subspan(m_first); }
+    void DropOldestAndAppend(float value);
 
     base::TwipsPerPixel m_screen;
     GraphProperties m_properties;
-    std::vector<float> m_values{0.0f};
+    // The retained values are m_store[m_first..]: a full graph drops its oldest value by moving
+    // m_first on, so a value written every second for days costs no copy of the whole series.
+    std::vector<float> m_store{0.0f};
+    std::size_t m_first = 0;
     float m_scrollOffset = 0;
     std::optional<Drawing> m_drawing;  // none: the picture is erased
     mutable std::vector<GraphLine> m_picture;

@@ -71,6 +71,18 @@ TEST(GraphMove, DefaultWidthHolds1359ValuesThenRolls) {
     EXPECT_EQ(graph.Values().back(), 99.0f);
 }
 
+TEST(GraphMove, LongRollKeepsTheNewestValuesInOrder) {
+    GraphMoveModel graph = SmallGraph();  // four values
+    for (int i = 1; i <= 23; ++i) {
+        ASSERT_TRUE(graph.setValue(static_cast<float>(i % 11)));
+        if (i < 3) continue;
+        const auto expected = [&](int back) { return static_cast<float>((i - back) % 11); };
+        ASSERT_EQ(graph.Values(), (std::vector<float>{expected(3), expected(2), expected(1), expected(0)})) << i;
+        ASSERT_EQ(Trend(graph).back(), (GraphLine{100, 75 - 7.5f * expected(1), 150, 75 - 7.5f * expected(0), kTrend}))
+            << i;
+    }
+}
+
 TEST(GraphMove, SmallCaseGridAndPoints) {
     GraphMoveModel graph = SmallGraph();
     ASSERT_TRUE(graph.setValue(10));
