@@ -80,7 +80,7 @@ private:
 };
 
 GraphMove::GraphMove(HWND parent, const RECT& bounds, int id, const PropertyBag* stored)
-    : m_model(ScreenTwipsPerPixel()) {
+    : m_model(ScreenTwipsPerPixel()), m_hostShown(IsWindowVisible(parent) != FALSE) {
     // Its own device context: hDC stays valid for the control's life.
     RegisterWindowClass(kControlClass, CS_OWNDC, reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
     CreateWindowFor(WS_EX_CONTROLPARENT, kControlClass, L"", WS_CHILD | WS_CLIPCHILDREN, bounds.left, bounds.top,
@@ -104,8 +104,7 @@ GraphMove::~GraphMove() = default;
 
 LOOKOUT_HOT bool GraphMove::setValue(float Value) {
     const bool accepted = m_model.setValue(Value);
-    // A hidden graph is painted whole when it is shown; asking for it now only costs a round trip.
-    if (accepted && IsWindowVisible(m_picTrend->Handle())) InvalidateRect(m_picTrend->Handle(), nullptr, FALSE);
+    if (accepted && m_hostShown) InvalidateRect(m_picTrend->Handle(), nullptr, FALSE);
     return accepted;
 }
 

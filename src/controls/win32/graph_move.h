@@ -8,6 +8,7 @@
 //   auto p = graph.Properties(); p.MaxValue = 100000; graph.SetProperties(p);
 //   graph.setValue(1234);   // false when outside MinValue..MaxValue
 //   graph.Move(newRect);    // on the host's resize; the graph is redrawn
+//   graph.SetHostShown(false);  // when the host's window is hidden or shown again
 //
 // Runtime errors of the drawing (MaxValue equal to MinValue, 16-bit grid counters) come out
 // of setValue as base::RuntimeError for the caller's error trap.
@@ -47,6 +48,10 @@ public:
     void WriteProperties(PropertyBag& bag) const { m_model.WriteProperties(bag); }
 
     void Move(const RECT& bounds);
+    // Whether the host's window is on screen (at creation: whether the parent was visible). A
+    // graph off screen takes its values without asking to be painted: it is painted whole when
+    // shown, and a graph hidden in the tray for days costs no window-system call per value.
+    void SetHostShown(bool shown) noexcept { m_hostShown = shown; }
 
     bool HasDC() const noexcept { return true; }
     HDC hDC() const noexcept;
@@ -80,6 +85,7 @@ private:
     base::UniqueHwnd m_toolTip;
     UniqueCursor m_mouseIcon;
     bool m_afterDoubleClick = false;
+    bool m_hostShown;
 };
 
 }  // namespace controls

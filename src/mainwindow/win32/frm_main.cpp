@@ -354,6 +354,13 @@ LOOKOUT_HOT LRESULT FrmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM l
                 return 0;
             }
             break;
+        case WM_WINDOWPOSCHANGED: {
+            const UINT flags = reinterpret_cast<const WINDOWPOS*>(lParam)->flags;
+            if ((flags & (SWP_SHOWWINDOW | SWP_HIDEWINDOW)) != 0) {
+                for (const auto& graph : m_graphs) graph->SetHostShown((flags & SWP_SHOWWINDOW) != 0);
+            }
+            break;  // the default handling sends WM_SIZE and WM_MOVE
+        }
         case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
         case WM_NOTIFY:
             if (OnNotify(*reinterpret_cast<NMHDR*>(lParam))) return 0;
