@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <initializer_list>
+#include <utility>
+
 #include "base/format.h"
 #include "base/runtime_error.h"
 
@@ -24,6 +28,13 @@ TEST(Conversions, WholeNumbersRoundHalfToEven) {
     EXPECT_EQ(ToByte(0.5), 0);
     EXPECT_EQ(ToByte(254.5), 254);
     EXPECT_EQ(ToInt32(2147483647.4), 2147483647);
+    for (const auto& [value, rounded] : std::initializer_list<std::pair<double, double>>{
+             {-3.5, -4}, {-0.5, 0}, {-0.51, -1}, {0.49999999999999994, 0}, {1.5, 2}, {4503599627370495.5, 4503599627370496},
+             {-4503599627370497.0, -4503599627370497.0}, {1e300, 1e300}}) {
+        EXPECT_EQ(RoundHalfEven(value), rounded) << value;
+    }
+    EXPECT_TRUE(std::isinf(RoundHalfEven(-INFINITY)));
+    EXPECT_TRUE(std::isnan(RoundHalfEven(NAN)));
 }
 
 TEST(Conversions, OutOfRangeRaisesOverflow) {
@@ -33,6 +44,7 @@ TEST(Conversions, OutOfRangeRaisesOverflow) {
     ExpectError(RuntimeErrorNumber::Overflow, [] { ToByte(std::string_view("256")); });
     ExpectError(RuntimeErrorNumber::Overflow, [] { ToInt32(2147483648.0); });
     EXPECT_EQ(ToInt16(-32768.4), -32768);
+    ExpectError(RuntimeErrorNumber::Overflow, [] { ToInt16(INFINITY); });
 }
 
 TEST(Conversions, TextMustBeANumber) {
