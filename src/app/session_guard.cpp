@@ -1,8 +1,10 @@
 #include "app/session_guard.h"
 
+#include <iterator>
+#include <utility>
+
 #include "app/traffic_text.h"
 #include "base/conversions.h"
-#include "base/fixed_array.h"
 #include "base/hot_path.h"
 #include "base/local_time.h"
 #include "base/product.h"
@@ -24,6 +26,11 @@ bool Listed(const PcList& list, const std::string& client) {
     return false;
 }
 
+// The open files of one more answer; a tick runs it only when other users hold files open.
+LOOKOUT_COLD void Append(std::vector<platform::OpenFileInfo>& files, std::vector<platform::OpenFileInfo> more) {
+    files.insert(files.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
+}
+
 }  // namespace
 
 SessionGuard::SessionGuard(Program& program, IMonitorHost& host, platform::INetApi& net, IClientLookup& lookup,
@@ -34,8 +41,6 @@ std::string SessionGuard::Stamp() { return base::MonitorStamp(m_clock.Now()); }
 
 LOOKOUT_HOT std::int16_t SessionGuard::Run(const std::string& server) {
     std::int16_t count = 0;
-    // The clients of one tick are kept in 100 slots: a 101st session raises the subscript error.
-    base::FixedArray<std::string, 0, 99> clients;
     int nextClient = 0;
     m_host.SessionList().Clear();
     m_program.tray.tip.clear();
@@ -44,15 +49,7 @@ LOOKOUT_HOT std::int16_t SessionGuard::Run(const std::string& server) {
     platform::SessionBatch batch;
     do {
         batch = m_net.EnumSessions(server, resume);
-        if (Answered(batch.status)) {
-            for (const auto& session : batch.records) {
-                if (session.userName.empty()) continue;  // a null session
-                count = base::ToInt16(count + 1.0);
-                if (m_program.settings.beep == 1) m_beeper.Beep();
-                clients[nextClient++] = session.clientName;
-                RecordSession(session);
-            }
-        }
+        if (Answered(batch.status) && !batch.records.empty()) CountSessions(batch.records, count, nextClient);
         m_host.DoEvents();
     } while (batch.entriesRead != batch.totalEntries);
 
@@ -64,6 +61,18 @@ LOOKOUT_HOT std::int16_t SessionGuard::Run(const std::string& server) {
     }
     if (m_panelServer != server) ShowServer(server);
     return count;
+}
+
+LOOKOUT_COLD void SessionGuard::CountSessions(const std::vector<platform::SessionInfo>& sessions, std::int16_t& count,
+                                              int& nextClient) {
+    if (!m_clients) m_clients = std::make_unique<base::FixedArray<std::string, 0, 99>>();
+    for (const auto& session : sessions) {
+        if (session.userName.empty()) continue;  // a null session
+        count = base::ToInt16(count + 1.0);
+        if (m_program.settings.beep == 1) m_beeper.Beep();
+        (*m_clients)[nextClient++] = session.clientName;
+        RecordSession(session);
+    }
 }
 
 LOOKOUT_COLD void SessionGuard::ShowServer(const std::string& server) {
@@ -119,7 +128,7 @@ LOOKOUT_HOT void SessionGuard::LogOpenFiles() {
     do {
         batch = m_net.EnumOpenFiles(resume);
         if (!Answered(batch.status)) return;
-        files.insert(files.end(), batch.records.begin(), batch.records.end());
+        if (!batch.records.empty()) Append(files, std::move(batch.records));
     } while (batch.status == platform::kErrorMoreData);
 
     if (!files.empty()) AddOpenFileRows(files);

@@ -3,6 +3,7 @@
 // this PC's shares, records them in the main monitor, beeps, and marks the PCs that break
 // the enforced deny or allow list for disconnection.
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -10,6 +11,7 @@
 #include "app/client_lookup.h"
 #include "app/monitor_host.h"
 #include "app/program.h"
+#include "base/fixed_array.h"
 #include "platform/beeper.h"
 #include "platform/clock.h"
 #include "platform/netapi.h"
@@ -30,6 +32,8 @@ public:
     void LogOpenFiles();
 
 private:
+    // Counts, beeps for and records the sessions of one answer; nextClient is the next free slot.
+    void CountSessions(const std::vector<platform::SessionInfo>& sessions, std::int16_t& count, int& nextClient);
     // Panel 2 names the server; it is written again only when the name changes.
     void ShowServer(const std::string& server);
     void RecordSession(const platform::SessionInfo& session);
@@ -47,6 +51,10 @@ private:
     platform::IBeeper& m_beeper;
     platform::IClock& m_clock;
     std::optional<std::string> m_panelServer;  // the server panel 2 names
+    // The clients of one tick are kept in 100 slots: a 101st session raises the subscript error.
+    // The slots are made at the first session and outlive the tick: a tick without sessions
+    // neither makes nor frees a hundred of them.
+    std::unique_ptr<base::FixedArray<std::string, 0, 99>> m_clients;
 };
 
 }  // namespace app

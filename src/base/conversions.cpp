@@ -142,10 +142,9 @@ std::optional<double> PlainWhole(std::string_view text) {
     }
     return text[0] == '-' ? -static_cast<double>(value) : static_cast<double>(value);  // "-0" stays -0
 }
-}  // namespace
 
-LOOKOUT_HOT double Val(std::string_view text) {
-    if (const auto whole = PlainWhole(text)) return *whole;
+// Val of anything but a plain whole number: blanks left out, "&H" hex, fractions and exponents.
+LOOKOUT_COLD double ValOfText(std::string_view text) {
     std::string packed;
     for (char c : text) {
         if (!IsBlank(c)) packed += c;
@@ -175,6 +174,13 @@ LOOKOUT_HOT double Val(std::string_view text) {
     }
     const std::string number = packed.substr(0, i);
     return std::strtod(number.c_str(), nullptr);
+}
+
+}  // namespace
+
+LOOKOUT_HOT double Val(std::string_view text) {
+    if (const auto whole = PlainWhole(text)) return *whole;
+    return ValOfText(text);
 }
 
 LOOKOUT_HOT std::string NumberText(double value) {

@@ -151,6 +151,7 @@ TEST_F(SessionGuardTest, MoreThanOneHundredSessionsRaiseTheSubscriptError) {
     many.pop_back();
     net.steadySessions = FakeNetApi::Sessions(many);
     EXPECT_EQ(guard.Run("S"), 100);
+    EXPECT_EQ(guard.Run("S"), 100);  // every tick starts again at the first slot
 }
 
 TEST_F(SessionGuardTest, Timer2DisconnectsEveryMarkedClientAgainAndAgain) {
