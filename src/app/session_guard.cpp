@@ -41,7 +41,6 @@ std::string SessionGuard::Stamp() { return base::MonitorStamp(m_clock.Now()); }
 
 LOOKOUT_HOT std::int16_t SessionGuard::Run(const std::string& server) {
     std::int16_t count = 0;
-    int nextClient = 0;
     m_host.SessionList().Clear();
     m_program.tray.tip.clear();
 
@@ -49,7 +48,7 @@ LOOKOUT_HOT std::int16_t SessionGuard::Run(const std::string& server) {
     platform::SessionBatch batch;
     do {
         batch = m_net.EnumSessions(server, resume);
-        if (Answered(batch.status) && !batch.records.empty()) CountSessions(batch.records, count, nextClient);
+        if (Answered(batch.status) && !batch.records.empty()) CountSessions(batch.records, count);
         m_host.DoEvents();
     } while (batch.entriesRead != batch.totalEntries);
 
@@ -63,14 +62,14 @@ LOOKOUT_HOT std::int16_t SessionGuard::Run(const std::string& server) {
     return count;
 }
 
-LOOKOUT_COLD void SessionGuard::CountSessions(const std::vector<platform::SessionInfo>& sessions, std::int16_t& count,
-                                              int& nextClient) {
+LOOKOUT_COLD void SessionGuard::CountSessions(const std::vector<platform::SessionInfo>& sessions,
+                                              std::int16_t& count) {
     if (!m_clients) m_clients = std::make_unique<base::FixedArray<std::string, 0, 99>>();
     for (const auto& session : sessions) {
         if (session.userName.empty()) continue;  // a null session
         count = base::ToInt16(count + 1.0);
         if (m_program.settings.beep == 1) m_beeper.Beep();
-        (*m_clients)[nextClient++] = session.clientName;
+        (*m_clients)[count - 1] = session.clientName;  // the n-th session of the tick takes slot n - 1
         RecordSession(session);
     }
 }

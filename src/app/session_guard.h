@@ -32,8 +32,8 @@ public:
     void LogOpenFiles();
 
 private:
-    // Counts, beeps for and records the sessions of one answer; nextClient is the next free slot.
-    void CountSessions(const std::vector<platform::SessionInfo>& sessions, std::int16_t& count, int& nextClient);
+    // Counts, beeps for and records the sessions of one answer; count is the tick's count so far.
+    void CountSessions(const std::vector<platform::SessionInfo>& sessions, std::int16_t& count);
     // Panel 2 names the server; it is written again only when the name changes.
     void ShowServer(const std::string& server);
     void RecordSession(const platform::SessionInfo& session);
