@@ -17,23 +17,29 @@ int TableModel::Icon(std::size_t row) const { return row < m_rows.size() ? m_row
 
 void TableModel::AddRow(std::vector<std::string> cells, int icon) {
     m_rows.push_back(Row{std::move(cells), icon});
-    Changed();
+    Changed(true);
 }
 
 LOOKOUT_HOT void TableModel::Clear() {
     if (m_rows.empty()) return;  // nothing for the view to redraw
     m_rows.clear();
-    Changed();
+    Changed(false);
+}
+
+void TableModel::Replace(std::vector<Row> rows) {
+    if (rows.empty() && m_rows.empty()) return;
+    m_rows = std::move(rows);
+    Changed(false);
 }
 
 void TableModel::SetIcon(std::size_t row, int icon) {
     if (row >= m_rows.size()) return;
     m_rows[row].icon = icon;
-    Changed();
+    Changed(false);
 }
 
-void TableModel::Changed() const {
-    if (m_listener) m_listener();
+void TableModel::Changed(bool appended) const {
+    if (m_listener) m_listener(appended);
 }
 
 }  // namespace base

@@ -14,7 +14,8 @@ public:
         std::vector<std::string> cells;
         int icon = -1;
     };
-    using ChangeListener = std::function<void()>;
+    // Told after every change whether rows were only appended (what is drawn stays valid).
+    using ChangeListener = std::function<void(bool appended)>;
 
     std::size_t RowCount() const { return m_rows.size(); }
     // The text of a cell; empty for a cell the row does not have.
@@ -24,13 +25,15 @@ public:
 
     void AddRow(std::vector<std::string> cells, int icon = -1);
     void Clear();
+    // A whole rebuild (all rows removed, then all added) that the view hears of once.
+    void Replace(std::vector<Row> rows);
     void SetIcon(std::size_t row, int icon);
 
     // Called after every change; the view uses it to renew its item count.
     void SetChangeListener(ChangeListener listener) { m_listener = std::move(listener); }
 
 private:
-    void Changed() const;
+    void Changed(bool appended) const;
 
     std::vector<Row> m_rows;
     ChangeListener m_listener;

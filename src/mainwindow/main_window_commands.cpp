@@ -9,16 +9,16 @@
 
 namespace mainwindow {
 
-void MainWindowModel::SetTabRefresh(int tab, TabRefresh refresh) {
+void MainWindowModel::SetTabPage(int tab, ITabPage& page) {
     Tab(tab);  // checks the index
-    m_refreshes[static_cast<std::size_t>(tab - 1)] = std::move(refresh);
+    m_pages[static_cast<std::size_t>(tab - 1)] = &page;
 }
 
-void MainWindowModel::RunRefresh(int tab, const char* errorText) {
-    const TabRefresh& refresh = m_refreshes[static_cast<std::size_t>(tab - 1)];
-    if (refresh && !refresh() && errorText) {
-        m_dialogs.ShowMessage(errorText, base::kProductName, platform::msgbox::kOkOnly);
-    }
+void MainWindowModel::RunRefresh(int tab, const char* errorText, bool fromTimer) {
+    ITabPage* page = m_pages[static_cast<std::size_t>(tab - 1)];
+    if (!page) return;
+    const bool ok = fromTimer ? page->TimerRefresh() : page->Refresh();
+    if (!ok && errorText) m_dialogs.ShowMessage(errorText, base::kProductName, platform::msgbox::kOkOnly);
 }
 
 void MainWindowModel::ShowCountOf(int tab) {

@@ -96,7 +96,11 @@ void MainWindowModel::SetTimerHandler(FormTimer timer, std::function<void()> han
 
 LOOKOUT_HOT void MainWindowModel::TimerTick(FormTimer timer) {
     const auto& state = m_timers[TimerIndex(timer)];
-    if (TimerRunning(timer) && state.handler) state.handler();
+    if (!TimerRunning(timer)) return;
+    if (state.handler) return state.handler();
+    // A tab's timer refreshes its page only while its tab is selected, with the text of the switch.
+    const TabInfo& selected = Tab(m_selectedTab);
+    if (selected.timer == timer) RunRefresh(m_selectedTab, selected.switchErrorText, true);
 }
 
 void MainWindowModel::SetMenuEnabled(MenuItem item, bool enabled) {

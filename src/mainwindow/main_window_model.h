@@ -8,9 +8,9 @@
 // model is the form's load, so the settings must have been read by then. The list rows live
 // in base::TableModel objects, one per list view, that the view shows as virtual lists.
 //
-// The tab Parts plug in through SetTabRefresh and SetTimerHandler, the monitoring and exit
-// through SetCommands, the remaining menu items through SetMenuHandler; what nobody plugged
-// in does nothing.
+// The tabs plug in their lists through SetTabPage, the monitoring and exit through SetCommands
+// and SetTimerHandler, the remaining menu items through SetMenuHandler; what nobody plugged in
+// does nothing.
 #include <array>
 #include <functional>
 #include <string>
@@ -22,6 +22,7 @@
 #include "base/table_model.h"
 #include "logs/log_writer.h"
 #include "mainwindow/menu_tree.h"
+#include "mainwindow/tab_page.h"
 #include "mainwindow/tabs.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
@@ -59,9 +60,6 @@ struct MainCommands {
     std::function<void()> clearMainMonitor;  // toolbar "clear"
     std::function<void()> exit;              // toolbar "exit" and the exit menu item
 };
-
-// A tab's refresh; false when it failed (the tab switch then shows the tab's error text).
-using TabRefresh = std::function<bool()>;
 
 class MainWindowModel {
 public:
@@ -115,7 +113,8 @@ public:
     int CurrentTab() const { return m_currentTab; }    // 0 until a tab was handled
     int SelectedTab() const { return m_selectedTab; }  // the tab strip's selection
     bool Busy() const { return m_busy; }
-    void SetTabRefresh(int tab, TabRefresh refresh);
+    // The page that fills the tab's list; it must outlive the model's use of it.
+    void SetTabPage(int tab, ITabPage& page);
     // A click on a tab of TabStrip1 (which selects it).
     void ClickTab(int tab);
     // "最新の情報に更新(&R)".
@@ -127,6 +126,8 @@ public:
     bool TimerRunning(FormTimer timer) const { return TimerEnabled(timer) && TimerInterval(timer) > 0; }
     void SetTimerInterval(FormTimer timer, int milliseconds);
     void SetTimerEnabled(FormTimer timer, bool enabled);
+    // A timer with a handler runs it; a tab's timer without one refreshes its tab's page while
+    // that tab is selected.
     void SetTimerHandler(FormTimer timer, std::function<void()> handler);
     void TimerTick(FormTimer timer);
 
@@ -181,8 +182,8 @@ private:
         return true;
     }
     void Notify(Change what, int index = 0) const;
-    // Runs a tab's refresh; on failure shows errorText when there is one.
-    void RunRefresh(int tab, const char* errorText);
+    // Runs a tab's refresh (or its timer's); on failure shows errorText when there is one.
+    void RunRefresh(int tab, const char* errorText, bool fromTimer = false);
     void ShowCountOf(int tab);
     void ApplyMenuStateOf(int tab);
     logs::ListRows RowsOf(logs::LogKind kind) const;
@@ -208,7 +209,7 @@ private:
     int m_currentTab = 0;
     int m_selectedTab = 1;
     bool m_busy = false;
-    std::array<TabRefresh, kTabCount> m_refreshes;
+    std::array<ITabPage*, kTabCount> m_pages{};
 
     std::array<TimerState, kTimerCount> m_timers;
     std::array<MenuState, kMenuItemCount> m_menus;

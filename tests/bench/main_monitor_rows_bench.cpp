@@ -24,7 +24,7 @@ namespace {
 class CountingView {
 public:
     explicit CountingView(base::TableModel& rows) : m_rows(rows) {
-        rows.SetChangeListener([this] { benchmark::DoNotOptimize(m_count = m_rows.RowCount()); });
+        rows.SetChangeListener([this](bool) { benchmark::DoNotOptimize(m_count = m_rows.RowCount()); });
     }
 
 private:

@@ -5,7 +5,6 @@
 #include "app/win32/frm_option.h"
 #include "base/hot_path.h"
 #include "network/name_resolution.h"
-#include "network/network_neighbourhood.h"
 
 namespace app {
 namespace {
@@ -44,6 +43,7 @@ void Application::LoadMainWindow(const std::string& caption) {
         std::make_unique<MonitoringCycle>(m_program, *this, m_clock, m_ipHelper, *m_trayIcon, *m_guard);
     m_commands =
         std::make_unique<ProgramCommands>(m_program, *this, *m_monitoring, m_dialogs, *m_trayIcon, m_clock);
+    m_pages = std::make_unique<TabPages>(*m_model, SharedServices{m_dialogs, m_ipHelper, m_winsock});
     WireMainWindow();
     m_monitoring->LoadInterfaces();
     if (const auto local = network::LocalAddressText(m_winsock)) m_model->SetPanelText(1, *local);
@@ -65,10 +65,6 @@ void Application::WireMainWindow() {
     m_model->SetTimerEnabled(FormTimer::Timer2, false);  // the monitoring switches it
     m_model->SetTimerHandler(FormTimer::Timer1, [this] { m_monitoring->Timer1Tick(); });
     m_model->SetTimerHandler(FormTimer::Timer2, [this] { m_monitoring->Timer2Tick(); });
-    m_model->SetTabRefresh(6, [this] {
-        network::ListNetworkPcs(m_dialogs, m_wnet, m_winsock, m_ipHelper, m_model->List(mainwindow::ListId::lstvPc));
-        return true;
-    });
     m_model->SetMenuHandler(MenuItem::mnuSetForm, [this] { OpenOptions(); });
     m_frmMain->OnWindowsSessionEnding([this] { m_commands->WindowsSessionEnding(); });
     // Closing the main window ends the program as unloading it always did: monitoring stops

@@ -9,6 +9,7 @@
 #include "app/program_commands.h"
 #include "app/session_guard.h"
 #include "app/startup.h"
+#include "app/win32/tab_pages.h"
 #include "app/winsock_client_lookup.h"
 #include "controls/win32/demo_window.h"
 #include "mainwindow/main_window_model.h"
@@ -25,7 +26,6 @@
 #include "platform/win32/system_info.h"
 #include "platform/win32/tray_icon.h"
 #include "platform/win32/winsock.h"
-#include "platform/win32/wnet.h"
 
 namespace app {
 
@@ -80,7 +80,6 @@ private:
     platform::win32::Instance m_instance;
     platform::win32::IpHelper m_ipHelper;
     platform::win32::Winsock m_winsock;
-    platform::win32::WNet m_wnet;
     platform::win32::NetApi m_net;
     platform::win32::Beeper m_beeper;
 
@@ -93,6 +92,7 @@ private:
     std::unique_ptr<SessionGuard> m_guard;
     std::unique_ptr<MonitoringCycle> m_monitoring;
     std::unique_ptr<ProgramCommands> m_commands;
+    std::unique_ptr<TabPages> m_pages;
 };
 
 }  // namespace app

@@ -27,20 +27,20 @@ VirtualListView::VirtualListView(HWND parent, int id, base::TableModel& rows, st
         SendMessageW(Handle(), LVM_INSERTCOLUMNW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&lvc));
         ++index;
     }
-    m_rows.SetChangeListener([this] { FollowModel(); });
-    FollowModel();
+    m_rows.SetChangeListener([this](bool appended) { FollowModel(appended); });
+    FollowModel(false);
 }
 
 VirtualListView::~VirtualListView() { m_rows.SetChangeListener(nullptr); }
 
-void VirtualListView::FollowModel() {
+void VirtualListView::FollowModel(bool appended) {
     const std::size_t count = m_rows.RowCount();
     if (count == m_count) {
         InvalidateRect(Handle(), nullptr, FALSE);  // a cell or an icon changed
         return;
     }
-    // Rows are only ever added at the end or all removed: a longer list keeps what is drawn.
-    const LPARAM flags = count > m_count ? LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL : 0;
+    // Rows added at the end leave what is drawn valid; a rebuild redraws everything.
+    const LPARAM flags = appended ? LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL : 0;
     m_count = count;
     SendMessageW(Handle(), LVM_SETITEMCOUNT, static_cast<WPARAM>(count), flags);
 }

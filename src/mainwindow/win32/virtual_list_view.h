@@ -33,7 +33,7 @@ public:
     void SetColours(base::Colour back, base::Colour text);
 
 private:
-    void FollowModel();
+    void FollowModel(bool appended);
 
     base::UniqueHwnd m_window;
     base::TableModel& m_rows;

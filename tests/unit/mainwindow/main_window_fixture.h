@@ -2,6 +2,8 @@
 // A main-window model over fakes, with a view that records what it is told.
 #include <gtest/gtest.h>
 
+#include <array>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -25,6 +27,12 @@ public:
     std::vector<std::pair<Change, int>> changes;
 };
 
+// A tab page whose refresh the test gives.
+struct LambdaPage : ITabPage {
+    std::function<bool()> refresh;
+    bool Refresh() override { return refresh(); }
+};
+
 class MainWindowTest : public ::testing::Test {
 protected:
     static app::Program MakeProgram() {
@@ -41,6 +49,13 @@ protected:
         for (int i = 0; i < n; ++i) model.List(list).AddRow({"row" + std::to_string(i)});
     }
 
+    void SetRefresh(int tab, std::function<bool()> refresh) {
+        LambdaPage& page = pages[static_cast<std::size_t>(tab - 1)];
+        page.refresh = std::move(refresh);
+        model.SetTabPage(tab, page);
+    }
+
+    std::array<LambdaPage, kTabCount> pages;
     app::Program program = MakeProgram();
     fakes::FakeFileSystem files;
     fakes::FakeClock clock;

@@ -100,7 +100,7 @@ TEST_F(MainWindowTest, EverySwitchFollowsTheTable) {
 TEST_F(MainWindowTest, EachTabRunsItsOwnRefreshBeforeCounting) {
     std::vector<int> refreshed;
     for (int tab = 2; tab <= 6; ++tab) {
-        model.SetTabRefresh(tab, [&, tab] {
+        SetRefresh(tab, [&, tab] {
             refreshed.push_back(tab);
             // The refresh fills the list; the count must come after it.
             model.List(Tab(tab).list).AddRow({"filled"});
@@ -122,7 +122,7 @@ TEST_F(MainWindowTest, FromProcessToApplicationsSwapsTheTimers) {
 
 TEST_F(MainWindowTest, ClickingTheShownTabDoesNothingButForTheMainMonitor) {
     int refreshes = 0;
-    model.SetTabRefresh(5, [&] { return ++refreshes > 0; });
+    SetRefresh(5, [&] { return ++refreshes > 0; });
     model.ClickTab(5);
     const auto timerChanges = view.Count(Change::Timer);
     model.List(ListId::lstvAddPort).AddRow({"new"});
@@ -140,13 +140,13 @@ TEST_F(MainWindowTest, ClickingTheShownTabDoesNothingButForTheMainMonitor) {
 TEST_F(MainWindowTest, TheFirstClickOnAnyTabRefreshesIt) {
     // The current tab is 0 after loading, so even a first click on tab 2 counts.
     int refreshes = 0;
-    model.SetTabRefresh(2, [&] { return ++refreshes > 0; });
+    SetRefresh(2, [&] { return ++refreshes > 0; });
     model.ClickTab(2);
     EXPECT_EQ(refreshes, 1);
 }
 
 TEST_F(MainWindowTest, AClickDuringARefreshOnlySetsTheCheckBox) {
-    model.SetTabRefresh(2, [&] {
+    SetRefresh(2, [&] {
         EXPECT_TRUE(model.Busy());
         // The refresh pumps messages; the user clicks My Network meanwhile.
         model.ClickTab(6);
@@ -163,15 +163,15 @@ TEST_F(MainWindowTest, AClickDuringARefreshOnlySetsTheCheckBox) {
     EXPECT_EQ(model.SelectedTab(), 6);
     EXPECT_FALSE(model.AutoLogEnabled());
     int again = 0;
-    model.SetTabRefresh(2, [&] { return ++again > 0; });
+    SetRefresh(2, [&] { return ++again > 0; });
     model.RefreshCurrentTab();
     EXPECT_EQ(again, 0);
 }
 
 TEST_F(MainWindowTest, AFailedRefreshShowsTheTabsTextAndStillShowsTheTab) {
-    model.SetTabRefresh(2, [] { return false; });
-    model.SetTabRefresh(3, [] { return false; });
-    model.SetTabRefresh(4, [] { return false; });
+    SetRefresh(2, [] { return false; });
+    SetRefresh(3, [] { return false; });
+    SetRefresh(4, [] { return false; });
     model.ClickTab(2);
     model.ClickTab(3);
     model.ClickTab(4);
@@ -197,7 +197,7 @@ TEST_F(MainWindowTest, TheRegistrationItemIsEnabledByTheApplicationsTabForGood) 
 TEST_F(MainWindowTest, TheRefreshCommandRerunsTheCurrentTab) {
     int refreshes = 0;
     bool ok = true;
-    model.SetTabRefresh(3, [&] {
+    SetRefresh(3, [&] {
         ++refreshes;
         model.List(ListId::lstvProcess).AddRow({"app"});
         return ok;
@@ -214,6 +214,27 @@ TEST_F(MainWindowTest, TheRefreshCommandRerunsTheCurrentTab) {
     EXPECT_EQ(dialogs.messages[0].text, "アプリケーション タブでエラーが発生しました。");
     EXPECT_EQ(model.PanelText(5), "プロセス : 3");
     EXPECT_EQ(model.TimerInterval(FormTimer::tmrPID), 20000);
+}
+
+TEST_F(MainWindowTest, ATabTimerRefreshesItsPageOnlyWhileItsTabIsSelected) {
+    int refreshes = 0;
+    SetRefresh(2, [&] { return ++refreshes > 1; });
+    model.ClickTab(2);
+    model.TimerTick(FormTimer::tmrTASK);  // the first refresh reports failure, the second not
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_EQ(dialogs.messages[0].text, "プロセス でエラーが発生しました。");
+    model.TimerTick(FormTimer::tmrTASK);
+    EXPECT_EQ(refreshes, 3);
+    // A refresh pumping messages lets the user select another tab before the timer stops.
+    SetRefresh(3, [&] {
+        model.ClickTab(2);
+        model.ClickTab(1);
+        return true;
+    });
+    model.ClickTab(3);
+    model.SetTimerInterval(FormTimer::tmrTASK, 10000);
+    model.TimerTick(FormTimer::tmrTASK);
+    EXPECT_EQ(refreshes, 3);
 }
 
 TEST_F(MainWindowTest, TimersTickOnlyWhileRunning) {

@@ -1,0 +1,12 @@
+#include "app/win32/tab_pages.h"
+
+namespace app {
+
+using mainwindow::ListId;
+
+TabPages::TabPages(mainwindow::MainWindowModel& model, SharedServices services)
+    : m_neighbourhood(services.dialogs, m_wnet, services.winsock, services.ipHelper, model.List(ListId::lstvPc)) {
+    model.SetTabPage(6, m_neighbourhood);
+}
+
+}  // namespace app

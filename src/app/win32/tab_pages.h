@@ -1,0 +1,32 @@
+#pragma once
+// The features behind the tabs, built in one place: the OS services only they use and one page
+// per tab, each registered once with the main window. A new tab adds its page here and one
+// registration line in the constructor.
+#include "mainwindow/main_window_model.h"
+#include "network/network_neighbourhood.h"
+#include "platform/win32/dialogs.h"
+#include "platform/win32/ip_helper.h"
+#include "platform/win32/winsock.h"
+#include "platform/win32/wnet.h"
+
+namespace app {
+
+// The OS services the pages share with the rest of the program.
+struct SharedServices {
+    platform::win32::Dialogs& dialogs;
+    platform::win32::IpHelper& ipHelper;
+    platform::win32::Winsock& winsock;
+};
+
+class TabPages {
+public:
+    TabPages(mainwindow::MainWindowModel& model, SharedServices services);
+    TabPages(const TabPages&) = delete;
+    TabPages& operator=(const TabPages&) = delete;
+
+private:
+    platform::win32::WNet m_wnet;
+    network::NetworkNeighbourhoodPage m_neighbourhood;
+};
+
+}  // namespace app
