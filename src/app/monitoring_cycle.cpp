@@ -6,7 +6,6 @@
 #include "app/traffic_text.h"
 #include "app/uptime.h"
 #include "base/conversions.h"
-#include "base/hot_path.h"
 #include "base/local_time.h"
 
 namespace app {
@@ -20,7 +19,7 @@ MonitoringCycle::MonitoringCycle(Program& program, IMonitorHost& host, platform:
                                  platform::IIpHelper& ipHelper, platform::ITrayIcon& trayIcon, SessionGuard& guard)
     : m_program(program), m_host(host), m_clock(clock), m_ipHelper(ipHelper), m_trayIcon(trayIcon), m_guard(guard) {}
 
-LOOKOUT_COLD std::string MonitoringCycle::IconPath(const std::string& iconFile) const {
+std::string MonitoringCycle::IconPath(const std::string& iconFile) const {
     return m_program.folder + iconFile;
 }
 
@@ -70,11 +69,11 @@ void MonitoringCycle::StopMonitoring() {
     UpdateTrayIcon();
 }
 
-LOOKOUT_HOT void MonitoringCycle::UpdateDisconnectTimer() {
+void MonitoringCycle::UpdateDisconnectTimer() {
     m_host.SetDisconnectTimer(m_host.DisconnectList().RowCount() > 0);
 }
 
-LOOKOUT_HOT void MonitoringCycle::UpdateTrayIcon() {
+void MonitoringCycle::UpdateTrayIcon() {
     TrayState& tray = m_program.tray;
     if (tray.currentIcon == tray.shownIcon && tray.tip == m_shownTip) return;
     m_trayIcon.Show(IconPath(tray.currentIcon), tray.tip);
@@ -82,13 +81,13 @@ LOOKOUT_HOT void MonitoringCycle::UpdateTrayIcon() {
     m_shownTip = tray.tip;
 }
 
-LOOKOUT_HOT void MonitoringCycle::Timer1Tick() {
+void MonitoringCycle::Timer1Tick() {
     SampleTraffic();
     MonitoringStep();
     m_guard.LogOpenFiles();
 }
 
-LOOKOUT_HOT void MonitoringCycle::SampleTraffic() {
+void MonitoringCycle::SampleTraffic() {
     // The row is chosen by the first character of the label alone, so only rows 0 to 9 can
     // be monitored and "12: ..." selects row 1. A row the table lacks reads as a vanished
     // interface: counters 0.
@@ -102,7 +101,7 @@ LOOKOUT_HOT void MonitoringCycle::SampleTraffic() {
     SampleSide(counters.outOctets, t.sentNow, t.sentDelta, t.sentBefore, 1);
 }
 
-LOOKOUT_HOT void MonitoringCycle::SampleSide(std::uint32_t counter, std::string& now, std::string& delta,
+void MonitoringCycle::SampleSide(std::uint32_t counter, std::string& now, std::string& delta,
                                              std::string& before, int side) {
     now = std::to_string(static_cast<std::int32_t>(counter));
     if (delta.empty()) {
@@ -119,7 +118,7 @@ LOOKOUT_HOT void MonitoringCycle::SampleSide(std::uint32_t counter, std::string&
     before = now;
 }
 
-LOOKOUT_HOT void MonitoringCycle::MonitoringStep() {
+void MonitoringCycle::MonitoringStep() {
     const std::int16_t sessions = m_guard.Run(m_host.ComputerNameText());
     UpdateDisconnectTimer();
 
@@ -140,12 +139,12 @@ LOOKOUT_HOT void MonitoringCycle::MonitoringStep() {
     UpdateTrayIcon();
 }
 
-LOOKOUT_COLD void MonitoringCycle::AddTrafficRow(const std::string& received) {
+void MonitoringCycle::AddTrafficRow(const std::string& received) {
     m_host.MainMonitor().AddRow({base::MonitorStamp(m_clock.Now()) + "  送信 : " + KilobyteFigure(received) + " KB" +
                                  "  受信 : " + KilobyteFigure(m_host.TrafficLabel(1)) + " KB"});
 }
 
-LOOKOUT_COLD void MonitoringCycle::AnnounceSessions() {
+void MonitoringCycle::AnnounceSessions() {
     const base::TableModel& sessions = m_host.SessionList();
     m_announcedSessions = sessions.RowCount();
     for (std::size_t row = 0; row < sessions.RowCount(); ++row) {

@@ -5,7 +5,6 @@
 
 #include "app/traffic_text.h"
 #include "base/conversions.h"
-#include "base/hot_path.h"
 #include "base/local_time.h"
 #include "base/product.h"
 
@@ -27,7 +26,7 @@ bool Listed(const PcList& list, const std::string& client) {
 }
 
 // The open files of one more answer; a tick runs it only when other users hold files open.
-LOOKOUT_COLD void Append(std::vector<platform::OpenFileInfo>& files, std::vector<platform::OpenFileInfo> more) {
+void Append(std::vector<platform::OpenFileInfo>& files, std::vector<platform::OpenFileInfo> more) {
     files.insert(files.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
 }
 
@@ -39,7 +38,7 @@ SessionGuard::SessionGuard(Program& program, IMonitorHost& host, platform::INetA
 
 std::string SessionGuard::Stamp() { return base::MonitorStamp(m_clock.Now()); }
 
-LOOKOUT_HOT std::int16_t SessionGuard::Run(const std::string& server) {
+std::int16_t SessionGuard::Run(const std::string& server) {
     std::int16_t count = 0;
     m_host.SessionList().Clear();
     m_program.tray.tip.clear();
@@ -62,7 +61,7 @@ LOOKOUT_HOT std::int16_t SessionGuard::Run(const std::string& server) {
     return count;
 }
 
-LOOKOUT_COLD void SessionGuard::CountSessions(const std::vector<platform::SessionInfo>& sessions,
+void SessionGuard::CountSessions(const std::vector<platform::SessionInfo>& sessions,
                                               std::int16_t& count) {
     if (!m_clients) m_clients = std::make_unique<base::FixedArray<std::string, 0, 99>>();
     for (const auto& session : sessions) {
@@ -74,12 +73,12 @@ LOOKOUT_COLD void SessionGuard::CountSessions(const std::vector<platform::Sessio
     }
 }
 
-LOOKOUT_COLD void SessionGuard::ShowServer(const std::string& server) {
+void SessionGuard::ShowServer(const std::string& server) {
     m_host.SetStatusPanel(2, "サーバ : " + server);
     m_panelServer = server;
 }
 
-LOOKOUT_COLD void SessionGuard::RecordSession(const platform::SessionInfo& session) {
+void SessionGuard::RecordSession(const platform::SessionInfo& session) {
     const std::string& client = session.clientName;
     std::string address = client;
     std::string hostName = client;
@@ -120,7 +119,7 @@ void SessionGuard::DisconnectMarked() {
     }
 }
 
-LOOKOUT_HOT void SessionGuard::LogOpenFiles() {
+void SessionGuard::LogOpenFiles() {
     std::vector<platform::OpenFileInfo> files;
     std::uintptr_t resume = 0;
     platform::FileBatch batch;
@@ -134,14 +133,14 @@ LOOKOUT_HOT void SessionGuard::LogOpenFiles() {
     if (m_host.MainMonitor().RowCount() > kAutosaveRows) AutosaveMainMonitor();
 }
 
-LOOKOUT_COLD void SessionGuard::AddOpenFileRows(const std::vector<platform::OpenFileInfo>& files) {
+void SessionGuard::AddOpenFileRows(const std::vector<platform::OpenFileInfo>& files) {
     base::TableModel& monitor = m_host.MainMonitor();
     for (const auto& file : files) {
         monitor.AddRow({Stamp() + "  使用中のファイル : " + file.pathName + " USER : " + file.userName});
     }
 }
 
-LOOKOUT_COLD void SessionGuard::AutosaveMainMonitor() {
+void SessionGuard::AutosaveMainMonitor() {
     base::TableModel& monitor = m_host.MainMonitor();
     m_host.SaveMainMonitor();
     monitor.Clear();

@@ -8,7 +8,6 @@
 #include <optional>
 #include <string>
 
-#include "base/hot_path.h"
 #include "base/runtime_error.h"
 
 namespace base {
@@ -51,7 +50,7 @@ std::optional<double> ParseHex(std::string_view digits, bool negative) {
 
 // Worked out with a whole-number conversion rather than std::remainder: the trend graphs round
 // several measures at every tick, and the library's code would be one more page per tick.
-LOOKOUT_HOT double RoundHalfEven(double value) {
+double RoundHalfEven(double value) {
     constexpr double kWholeFrom = 4503599627370496.0;  // 2^52: from here on every double is whole
     if (!(std::fabs(value) < kWholeFrom)) return value;  // infinities and NaN included
     const auto whole = static_cast<std::int64_t>(value);  // toward zero
@@ -62,11 +61,11 @@ LOOKOUT_HOT double RoundHalfEven(double value) {
     return static_cast<double>(whole);
 }
 
-LOOKOUT_HOT std::int16_t ToInt16(double value) { return ToWhole<std::int16_t>(value); }
+std::int16_t ToInt16(double value) { return ToWhole<std::int16_t>(value); }
 std::uint8_t ToByte(double value) { return ToWhole<std::uint8_t>(value); }
 std::int32_t ToInt32(double value) { return ToWhole<std::int32_t>(value); }
 
-LOOKOUT_HOT float ToSingle(double value) {
+float ToSingle(double value) {
     if (std::isfinite(value) && std::fabs(value) > std::numeric_limits<float>::max()) {
         throw RuntimeError(RuntimeErrorNumber::Overflow);
     }
@@ -144,7 +143,7 @@ std::optional<double> PlainWhole(std::string_view text) {
 }
 
 // Val of anything but a plain whole number: blanks left out, "&H" hex, fractions and exponents.
-LOOKOUT_COLD double ValOfText(std::string_view text) {
+double ValOfText(std::string_view text) {
     std::string packed;
     for (char c : text) {
         if (!IsBlank(c)) packed += c;
@@ -178,12 +177,12 @@ LOOKOUT_COLD double ValOfText(std::string_view text) {
 
 }  // namespace
 
-LOOKOUT_HOT double Val(std::string_view text) {
+double Val(std::string_view text) {
     if (const auto whole = PlainWhole(text)) return *whole;
     return ValOfText(text);
 }
 
-LOOKOUT_HOT std::string NumberText(double value) {
+std::string NumberText(double value) {
     if (value == 0) return "0";
     if (value == std::floor(value) && std::fabs(value) < 1e15) return std::to_string(static_cast<std::int64_t>(value));
     char buffer[40];

@@ -1,6 +1,5 @@
 #include "base/table_model.h"
 
-#include "base/hot_path.h"
 
 namespace base {
 namespace {
@@ -20,7 +19,7 @@ void TableModel::AddRow(std::vector<std::string> cells, int icon) {
     Changed(true);
 }
 
-LOOKOUT_HOT void TableModel::Clear() {
+void TableModel::Clear() {
     if (m_rows.empty()) return;  // nothing for the view to redraw
     m_rows.clear();
     Changed(false);

@@ -5,7 +5,6 @@
 #include <limits>
 
 #include "base/conversions.h"
-#include "base/hot_path.h"
 #include "base/runtime_error.h"
 
 namespace controls {
@@ -127,7 +126,7 @@ void GraphMoveModel::SetProperties(const GraphProperties& properties) {
     m_properties = properties;
 }
 
-LOOKOUT_HOT bool GraphMoveModel::setValue(float Value) {
+bool GraphMoveModel::setValue(float Value) {
     if (Value > m_properties.MaxValue || Value < m_properties.MinValue) return false;
     const float step = ConvertY(m_properties.GridStep);
     const float capacity = Divide(m_properties.innerWidth, step);
@@ -141,7 +140,7 @@ LOOKOUT_HOT bool GraphMoveModel::setValue(float Value) {
     return true;
 }
 
-LOOKOUT_HOT void GraphMoveModel::DropOldestAndAppend(float value) {
+void GraphMoveModel::DropOldestAndAppend(float value) {
     ++m_first;
     m_store.push_back(value);
     // The dropped values are let go of once there are as many of them as retained ones: one copy
@@ -167,7 +166,7 @@ void GraphMoveModel::Resize(int widthPixels, int heightPixels) {
     Redraw();
 }
 
-LOOKOUT_HOT void GraphMoveModel::Redraw() {
+void GraphMoveModel::Redraw() {
     Drawing drawing{.width = m_properties.innerWidth,
                     .height = m_properties.innerHeight,
                     .gridX = ConvertX(m_properties.GridSpaceX),

@@ -3,7 +3,6 @@
 #include <stdexcept>
 
 #include "app/settings.h"
-#include "base/hot_path.h"
 #include "mainwindow/toolbar_buttons.h"
 
 namespace mainwindow {
@@ -57,11 +56,11 @@ void MainWindowModel::SetVisible(bool visible) {
     if (Store(m_visible, visible)) Notify(Change::Visible);
 }
 
-LOOKOUT_HOT const std::string& MainWindowModel::TrafficLabel(int index) const {
+const std::string& MainWindowModel::TrafficLabel(int index) const {
     return m_trafficLabels.at(static_cast<std::size_t>(index));
 }
 
-LOOKOUT_HOT void MainWindowModel::SetTrafficLabel(int index, std::string text) {
+void MainWindowModel::SetTrafficLabel(int index, std::string text) {
     if (Store(m_trafficLabels.at(static_cast<std::size_t>(index)), std::move(text))) {
         Notify(Change::TrafficLabel, index);
     }
@@ -86,7 +85,7 @@ void MainWindowModel::SetTimerInterval(FormTimer timer, int milliseconds) {
     Notify(Change::Timer, TimerIndex(timer));
 }
 
-LOOKOUT_HOT void MainWindowModel::SetTimerEnabled(FormTimer timer, bool enabled) {
+void MainWindowModel::SetTimerEnabled(FormTimer timer, bool enabled) {
     if (Store(m_timers[TimerIndex(timer)].enabled, enabled)) Notify(Change::Timer, TimerIndex(timer));
 }
 
@@ -94,7 +93,7 @@ void MainWindowModel::SetTimerHandler(FormTimer timer, std::function<void()> han
     m_timers[TimerIndex(timer)].handler = std::move(handler);
 }
 
-LOOKOUT_HOT void MainWindowModel::TimerTick(FormTimer timer) {
+void MainWindowModel::TimerTick(FormTimer timer) {
     const auto& state = m_timers[TimerIndex(timer)];
     if (!TimerRunning(timer)) return;
     if (state.handler) return state.handler();

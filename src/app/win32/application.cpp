@@ -3,7 +3,6 @@
 #include "app/options_model.h"
 #include "app/settings_file.h"
 #include "app/win32/frm_option.h"
-#include "base/hot_path.h"
 #include "network/name_resolution.h"
 
 namespace app {
@@ -16,7 +15,7 @@ constexpr int kTimer2Interval = 1000;
 
 Application::~Application() = default;
 
-LOOKOUT_HOT int Application::Run() {
+int Application::Run() {
     StartupServices services{m_instance, m_files, m_profile, m_dialogs, m_system};
     if (RunStartup(m_program, services, *this) != StartupOutcome::Running) return 0;
     MSG message;
@@ -101,17 +100,17 @@ void Application::SetStatusPanel(int panel, const std::string& text) { m_model->
 
 // --- The monitoring cycle's view of the window
 
-LOOKOUT_HOT base::TableModel& Application::MainMonitor() { return m_model->List(mainwindow::ListId::lstvMain); }
-LOOKOUT_HOT base::TableModel& Application::SessionList() { return m_model->List(mainwindow::ListId::ListView1); }
-LOOKOUT_HOT base::TableModel& Application::DisconnectList() { return m_model->List(mainwindow::ListId::ListView2); }
-LOOKOUT_HOT const std::string& Application::ComputerNameText() { return m_model->ComputerNameText(); }
-LOOKOUT_HOT const std::string& Application::SelectedInterfaceText() { return m_model->InterfaceLabel(); }
+base::TableModel& Application::MainMonitor() { return m_model->List(mainwindow::ListId::lstvMain); }
+base::TableModel& Application::SessionList() { return m_model->List(mainwindow::ListId::ListView1); }
+base::TableModel& Application::DisconnectList() { return m_model->List(mainwindow::ListId::ListView2); }
+const std::string& Application::ComputerNameText() { return m_model->ComputerNameText(); }
+const std::string& Application::SelectedInterfaceText() { return m_model->InterfaceLabel(); }
 void Application::SetSelectedInterfaceText(const std::string& text) { m_model->SetInterfaceLabel(text); }
-LOOKOUT_HOT const std::string& Application::TrafficLabel(int index) { return m_model->TrafficLabel(index); }
-LOOKOUT_HOT void Application::SetTrafficLabel(int index, const std::string& text) {
+const std::string& Application::TrafficLabel(int index) { return m_model->TrafficLabel(index); }
+void Application::SetTrafficLabel(int index, const std::string& text) {
     m_model->SetTrafficLabel(index, text);
 }
-LOOKOUT_HOT void Application::FeedGraph(int index, float value) { m_frmMain->Graph(index).setValue(value); }
+void Application::FeedGraph(int index, float value) { m_frmMain->Graph(index).setValue(value); }
 
 void Application::SetMonitoringTimers(bool enabled, unsigned timer1IntervalMs) {
     using mainwindow::FormTimer;
@@ -119,7 +118,7 @@ void Application::SetMonitoringTimers(bool enabled, unsigned timer1IntervalMs) {
     m_model->SetTimerEnabled(FormTimer::Timer1, enabled);
 }
 
-LOOKOUT_HOT void Application::SetDisconnectTimer(bool enabled) {
+void Application::SetDisconnectTimer(bool enabled) {
     m_model->SetTimerEnabled(mainwindow::FormTimer::Timer2, enabled);
 }
 
@@ -134,6 +133,6 @@ void Application::RaiseAlert(const std::string& text) {
 }
 
 void Application::SaveMainMonitor() { m_model->SaveMainMonitor(); }
-LOOKOUT_HOT void Application::DoEvents() { m_pump.DoEvents(); }
+void Application::DoEvents() { m_pump.DoEvents(); }
 
 }  // namespace app

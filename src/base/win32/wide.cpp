@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <type_traits>
 
-#include "base/hot_path.h"
 
 namespace base {
 
@@ -37,7 +36,7 @@ bool IsAscii(std::basic_string_view<Char> text) {
                        [](Char c) { return static_cast<std::make_unsigned_t<Char>>(c) < 0x80; });
 }
 
-LOOKOUT_HOT std::wstring Widen(std::string_view utf8) {
+std::wstring Widen(std::string_view utf8) {
     if (IsAscii(utf8)) return std::wstring(utf8.begin(), utf8.end());
     return ToWide(utf8, CP_UTF8);
 }

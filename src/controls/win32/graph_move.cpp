@@ -3,7 +3,6 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
-#include "base/hot_path.h"
 #include "base/win32/colour.h"
 #include "base/win32/fatal_error.h"
 #include "base/win32/wide.h"
@@ -102,7 +101,7 @@ GraphMove::GraphMove(HWND parent, const RECT& bounds, int id, const PropertyBag*
 
 GraphMove::~GraphMove() = default;
 
-LOOKOUT_HOT bool GraphMove::setValue(float Value) {
+bool GraphMove::setValue(float Value) {
     const bool accepted = m_model.setValue(Value);
     if (accepted && m_hostShown) InvalidateRect(m_picTrend->Handle(), nullptr, FALSE);
     return accepted;

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/hot_path.h"
 #include "base/resource_ids.h"
 #include "base/win32/controls.h"
 #include "base/win32/fatal_error.h"
@@ -340,7 +339,7 @@ LRESULT CALLBACK FrmMain::TabStripProcedure(HWND window, UINT message, WPARAM wP
     return result;
 }
 
-LOOKOUT_HOT LRESULT FrmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT FrmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     // The system sizes the window and its controls report while they are being created.
     if (!m_created) return base::Window::HandleMessage(message, wParam, lParam);
     switch (message) {

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cstring>
 
-#include "base/hot_path.h"
 #include "base/text_encoding.h"
 
 namespace platform::win32 {
@@ -42,7 +41,7 @@ std::vector<InterfaceRow> IpHelper::InterfaceTable() {
     return rows;
 }
 
-LOOKOUT_HOT std::optional<InterfaceCounters> IpHelper::Counters(std::uint32_t index) {
+std::optional<InterfaceCounters> IpHelper::Counters(std::uint32_t index) {
     MIB_IFROW row{};
     row.dwIndex = index;
     if (GetIfEntry(&row) != NO_ERROR) return std::nullopt;

@@ -2,11 +2,10 @@
 
 #include <windows.h>
 
-#include "base/hot_path.h"
 
 namespace platform::win32 {
 
-LOOKOUT_HOT void MessagePump::DoEvents() {
+void MessagePump::DoEvents() {
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) {

@@ -3,7 +3,6 @@
 #include <windows.h>
 #include <lm.h>
 
-#include "base/hot_path.h"
 #include "base/win32/wide.h"
 
 namespace platform::win32 {
@@ -32,20 +31,20 @@ std::string Text(LPCWSTR text) { return text ? base::Narrow(text) : std::string(
 
 bool Answered(NET_API_STATUS status) { return status == NERR_Success || status == ERROR_MORE_DATA; }
 
-LOOKOUT_COLD void AddSessions(const SESSION_INFO_2* records, DWORD count, std::vector<SessionInfo>& to) {
+void AddSessions(const SESSION_INFO_2* records, DWORD count, std::vector<SessionInfo>& to) {
     for (DWORD i = 0; i < count; ++i) {
         const SESSION_INFO_2& record = records[i];
         to.push_back({Text(record.sesi2_cname), Text(record.sesi2_username), Text(record.sesi2_cltype_name)});
     }
 }
 
-LOOKOUT_COLD void AddFiles(const FILE_INFO_3* records, DWORD count, std::vector<OpenFileInfo>& to) {
+void AddFiles(const FILE_INFO_3* records, DWORD count, std::vector<OpenFileInfo>& to) {
     for (DWORD i = 0; i < count; ++i) to.push_back({Text(records[i].fi3_pathname), Text(records[i].fi3_username)});
 }
 
 }  // namespace
 
-LOOKOUT_HOT SessionBatch NetApi::EnumSessions(const std::string& server, std::uint32_t& resume) {
+SessionBatch NetApi::EnumSessions(const std::string& server, std::uint32_t& resume) {
     if (m_server != server) {
         m_wideServer = base::Widen(server);
         m_server = server;
@@ -72,7 +71,7 @@ std::uint32_t NetApi::DeleteSession(const std::string& clientName, const std::st
     return NetSessionDel(nullptr, client.data(), user.empty() ? nullptr : user.data());
 }
 
-LOOKOUT_HOT FileBatch NetApi::EnumOpenFiles(std::uintptr_t& resume) {
+FileBatch NetApi::EnumOpenFiles(std::uintptr_t& resume) {
     NetApiBuffer buffer;
     DWORD read = 0, total = 0;
     DWORD_PTR resumeHandle = resume;
