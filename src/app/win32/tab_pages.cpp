@@ -5,7 +5,10 @@ namespace app {
 using mainwindow::ListId;
 
 TabPages::TabPages(mainwindow::MainWindowModel& model, SharedServices services)
-    : m_neighbourhood(services.dialogs, m_wnet, services.winsock, services.ipHelper, model.List(ListId::lstvPc)) {
+    : m_connections(services.dialogs, services.ipHelper, model.List(ListId::lstvAddPort),
+                    [&model] { model.AutomaticLog(logs::LogKind::Netstat); }),
+      m_neighbourhood(services.dialogs, m_wnet, services.winsock, services.ipHelper, model.List(ListId::lstvPc)) {
+    model.SetTabPage(5, m_connections);
     model.SetTabPage(6, m_neighbourhood);
 }
 

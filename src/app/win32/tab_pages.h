@@ -3,6 +3,7 @@
 // per tab, each registered once with the main window. A new tab adds its page here and one
 // registration line in the constructor.
 #include "mainwindow/main_window_model.h"
+#include "network/connection_table.h"
 #include "network/network_neighbourhood.h"
 #include "platform/win32/dialogs.h"
 #include "platform/win32/ip_helper.h"
@@ -26,6 +27,7 @@ public:
 
 private:
     platform::win32::WNet m_wnet;
+    network::ConnectionTablePage m_connections;
     network::NetworkNeighbourhoodPage m_neighbourhood;
 };
 
