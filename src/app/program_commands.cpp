@@ -2,6 +2,7 @@
 
 #include "base/local_time.h"
 #include "base/product.h"
+#include "base/reentry_guard.h"
 
 namespace app {
 namespace {
@@ -27,7 +28,9 @@ bool ProgramCommands::Exit() {
 }
 
 void ProgramCommands::WindowsSessionEnding() {
-    if (m_program.settings.logflag != 1) return;
+    // Asked again while its own save pumps messages, the session has ended once: one row, one file.
+    const base::ReentryGuard ending(m_sessionEnding);
+    if (m_program.settings.logflag != 1 || !ending.First()) return;
     m_host.MainMonitor().AddRow({base::MonitorStamp(m_clock.Now()) + "Windowsが終了されました。"});
     m_host.SaveMainMonitor();
 }

@@ -19,6 +19,7 @@ public:
     // is 1 and removes the tray icon. True when the program is to end.
     bool Exit();
     // Windows ends the session: with "logflag" 1 the main monitor gets its last row and is saved.
+    // During another save of the main monitor, that save writes the row.
     void WindowsSessionEnding();
     // Clears the main monitor after confirmation; it starts again with the banner row.
     void ClearMainMonitor();
@@ -30,6 +31,7 @@ private:
     platform::IDialogs& m_dialogs;
     platform::ITrayIcon& m_trayIcon;
     platform::IClock& m_clock;
+    bool m_sessionEnding = false;
 };
 
 }  // namespace app

@@ -2,6 +2,7 @@
 // Fakes for the monitoring tests: a host that records what the cycle did to the window,
 // scripted session and open-file answers, the tray icon and the beeper.
 #include <deque>
+#include <functional>
 #include <map>
 
 #include "app/client_lookup.h"
@@ -35,6 +36,7 @@ public:
     void SetRunButtons(bool running) override { runButtonsShowRunning = running; }
     void RaiseAlert(const std::string& text) override { alerts.push_back(text); }
     void SaveMainMonitor() override {
+        if (onSave) onSave();
         savedRowCounts.push_back(mainMonitor.RowCount());
     }
     void DoEvents() override { ++pumps; }
@@ -55,6 +57,7 @@ public:
     bool runButtonsShowRunning = false;
     std::vector<std::string> alerts;
     std::vector<std::size_t> savedRowCounts;
+    std::function<void()> onSave;  // runs as a save would pump messages
     int pumps = 0;
 };
 

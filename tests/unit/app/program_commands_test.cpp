@@ -69,6 +69,16 @@ TEST_F(ProgramCommandsTest, EndOfTheWindowsSessionIsTheLastSavedRow) {
     EXPECT_EQ(host.savedRowCounts.size(), 1u);
 }
 
+// Windows asks again while the save of the first request pumps messages.
+TEST_F(ProgramCommandsTest, ASessionEndDuringItsOwnSaveAddsNoSecondRow) {
+    host.onSave = [&] {
+        host.onSave = nullptr;
+        commands.WindowsSessionEnding();
+    };
+    commands.WindowsSessionEnding();
+    EXPECT_EQ(host.savedRowCounts, std::vector<std::size_t>{2});
+}
+
 TEST_F(ProgramCommandsTest, ClearStartsTheMainMonitorAgainWithTheBanner) {
     host.mainMonitor.AddRow({"row"});
     dialogs.answers = {platform::msgbox::kNo};
