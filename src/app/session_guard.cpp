@@ -1,7 +1,6 @@
 #include "app/session_guard.h"
 
 #include <iterator>
-#include <utility>
 
 #include "app/traffic_text.h"
 #include "base/conversions.h"
@@ -23,11 +22,6 @@ bool Listed(const PcList& list, const std::string& client) {
         if (list[slot] == client) return true;
     }
     return false;
-}
-
-// The open files of one more answer; a tick runs it only when other users hold files open.
-void Append(std::vector<platform::OpenFileInfo>& files, std::vector<platform::OpenFileInfo> more) {
-    files.insert(files.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
 }
 
 }  // namespace
@@ -63,12 +57,11 @@ std::int16_t SessionGuard::Run(const std::string& server) {
 
 void SessionGuard::CountSessions(const std::vector<platform::SessionInfo>& sessions,
                                               std::int16_t& count) {
-    if (!m_clients) m_clients = std::make_unique<base::FixedArray<std::string, 0, 99>>();
     for (const auto& session : sessions) {
         if (session.userName.empty()) continue;  // a null session
         count = base::ToInt16(count + 1.0);
         if (m_program.settings.beep == 1) m_beeper.Beep();
-        (*m_clients)[count - 1] = session.clientName;  // the n-th session of the tick takes slot n - 1
+        m_clients[count - 1] = session.clientName;  // the n-th session of the tick takes slot n - 1
         RecordSession(session);
     }
 }
@@ -107,7 +100,13 @@ void SessionGuard::CheckLists(const std::string& client, const std::string& user
 
 void SessionGuard::MarkForDisconnection(const char* reason, const std::string& client, const std::string& user) {
     m_host.MainMonitor().AddRow({Stamp() + reason + client + "に対して切断処理を実行しました｡"});
-    m_host.DisconnectList().AddRow({user, client});
+    // A violator is marked again at every tick while it stays connected: one row per client keeps
+    // Timer2's work flat however long that lasts.
+    base::TableModel& list = m_host.DisconnectList();
+    for (std::size_t row = 0; row < list.RowCount(); ++row) {
+        if (list.Cell(row, 1) == client) return;
+    }
+    list.AddRow({user, client});
 }
 
 void SessionGuard::DisconnectMarked() {
@@ -126,7 +125,8 @@ void SessionGuard::LogOpenFiles() {
     do {
         batch = m_net.EnumOpenFiles(resume);
         if (!Answered(batch.status)) return;
-        if (!batch.records.empty()) Append(files, std::move(batch.records));
+        files.insert(files.end(), std::make_move_iterator(batch.records.begin()),
+                     std::make_move_iterator(batch.records.end()));
     } while (batch.status == platform::kErrorMoreData);
 
     if (!files.empty()) AddOpenFileRows(files);

@@ -3,7 +3,6 @@
 // this PC's shares, records them in the main monitor, beeps, and marks the PCs that break
 // the enforced deny or allow list for disconnection.
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -52,9 +51,7 @@ private:
     platform::IClock& m_clock;
     std::optional<std::string> m_panelServer;  // the server panel 2 names
     // The clients of one tick are kept in 100 slots: a 101st session raises the subscript error.
-    // The slots are made at the first session and outlive the tick: a tick without sessions
-    // neither makes nor frees a hundred of them.
-    std::unique_ptr<base::FixedArray<std::string, 0, 99>> m_clients;
+    base::FixedArray<std::string, 0, 99> m_clients;
 };
 
 }  // namespace app

@@ -29,8 +29,6 @@
 
 namespace app {
 
-// IMonitorHost comes first: the monitoring tick calls it every second, and calls through the first
-// base need no this-adjusting thunk, which would be one more code page per tick.
 class Application final : public IMonitorHost, public IStartupHost {
 public:
     Application() = default;

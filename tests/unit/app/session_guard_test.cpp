@@ -154,6 +154,21 @@ TEST_F(SessionGuardTest, MoreThanOneHundredSessionsRaiseTheSubscriptError) {
     EXPECT_EQ(guard.Run("S"), 100);  // every tick starts again at the first slot
 }
 
+TEST_F(SessionGuardTest, AViolatorConnectedAllDayKeepsOneRowAndTimer2sWorkStaysFlat) {
+    program.denyList[0] = "OK";
+    program.denyList[2] = "BAD";
+    net.steadySessions = FakeNetApi::Sessions({Session("BAD", "eve"), Session("GOOD", "u")});
+    for (int second = 0; second < 24 * 60 * 60; ++second) {
+        clock.now = {2005, 6, 22, second / 3600, second / 60 % 60, second % 60};
+        guard.Run("S");
+        host.mainMonitor.Clear();
+        const std::size_t before = net.deleted.size();
+        guard.DisconnectMarked();
+        ASSERT_EQ(net.deleted.size() - before, 1u) << "at second " << second;
+    }
+    EXPECT_EQ(host.disconnectList.RowCount(), 1u);
+}
+
 TEST_F(SessionGuardTest, Timer2DisconnectsEveryMarkedClientAgainAndAgain) {
     host.disconnectList.AddRow({"eve", "BAD"});
     host.disconnectList.AddRow({"x", ""});  // no client name: skipped
