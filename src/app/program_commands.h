@@ -1,7 +1,7 @@
 #pragma once
 // The commands that end the program or clear its log: the exit command (toolbar and menu),
 // the end of the Windows session, and the clearing of the main monitor.
-#include "app/monitor_host.h"
+#include "app/monitor_window.h"
 #include "app/monitoring_cycle.h"
 #include "app/program.h"
 #include "platform/clock.h"
@@ -12,7 +12,7 @@ namespace app {
 
 class ProgramCommands {
 public:
-    ProgramCommands(Program& program, IMonitorHost& host, MonitoringCycle& monitoring, platform::IDialogs& dialogs,
+    ProgramCommands(Program& program, IMainMonitor& mainMonitor, MonitoringCycle& monitoring, platform::IDialogs& dialogs,
                     platform::ITrayIcon& trayIcon, platform::IClock& clock);
 
     // Asks for confirmation; on Yes stops monitoring, saves the main monitor when "logflag"
@@ -26,7 +26,7 @@ public:
 
 private:
     Program& m_program;
-    IMonitorHost& m_host;
+    IMainMonitor& m_mainMonitor;
     MonitoringCycle& m_monitoring;
     platform::IDialogs& m_dialogs;
     platform::ITrayIcon& m_trayIcon;

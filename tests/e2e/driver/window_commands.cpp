@@ -136,6 +136,12 @@ void WaitExit(const Options& options) {
                       " ms");
 }
 
+void Retitle(const Options& options) {
+    if (options.arguments.size() != 1) throw std::invalid_argument("retitle needs the text");
+    if (!SetWindowTextW(WaitForTopLevelWindow(options), base::Widen(options.arguments[0]).c_str()))
+        throw Failure("the window kept its title");
+}
+
 }  // namespace
 
 const std::vector<Command>& WindowCommands() {
@@ -156,6 +162,7 @@ const std::vector<Command>& WindowCommands() {
         {"post", "post MSG WPARAM LPARAM  post a message (numbers, 0x for hexadecimal) to the window", Post},
         {"processes", "processes               running processes (of --process): pid, image name", ListProcesses},
         {"wait-exit", "wait-exit               wait until no process named --process runs", WaitExit},
+        {"retitle", "retitle TEXT            set the window's title", Retitle},
     };
     return commands;
 }
