@@ -64,7 +64,7 @@ void Application::WireMainWindow() {
         [this] { m_monitoring->StopMonitoring(); },
         [this] { m_commands->ClearMainMonitor(); },
         [this] {
-            if (m_commands->Exit()) EndProgram();
+            if (m_commands->Exit([this] { ShowWindow(m_frmMain->Handle(), SW_HIDE); })) EndProgram();
         },
     });
     m_model->SetTimerInterval(FormTimer::Timer2, kTimer2Interval);

@@ -8,8 +8,7 @@ e2e_begin
 e2e_write_settings open=1 start=1 logflag=1
 printf 'in the way' >"$E2E_PROGRAM_DIR/logs"
 e2e_start_shown
-main=(--title "$E2E_BANNER")
-drive menu-invoke "${main[@]}" "ファイル(&F)" "Veskar_Lookoutの終了(&X)"
+drive menu-invoke --title "$E2E_BANNER" "ファイル(&F)" "Veskar_Lookoutの終了(&X)"
 drive messagebox-click はい --process "$E2E_PROCESS" --timeout 10000
 e2e_wait_program_end 20 "the program after Yes"
 

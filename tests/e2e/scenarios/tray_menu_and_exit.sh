@@ -23,11 +23,8 @@ e2e_screenshot tray_menu
 
 popup_key a
 about=(--class Veskar_Lookout.frmAbout --process "$E2E_PROCESS")
-drive wait "${about[@]}" >/dev/null
-assert_eq "$E2E_PRODUCT （ﾊﾞｰｼﾞｮﾝ情報）" "$(drive window "${about[@]}" | awk -F'\t' '$1 == "title" { print $2 }')" \
-    "the about box's caption"
-labels=$(drive children "${about[@]}" | cut -f5)
-assert_line "$labels" "$E2E_PRODUCT Version.1.0.1" "the version label"
+assert_line "$(drive window "${about[@]}")" $'title\t'"$E2E_PRODUCT （ﾊﾞｰｼﾞｮﾝ情報）" "the about box's caption"
+assert_line "$(drive children "${about[@]}" | cut -f5)" "$E2E_PRODUCT Version.1.0.1" "the version label"
 e2e_screenshot about_box
 drive click --caption OK "${about[@]}"
 drive wait-gone "${about[@]}"
