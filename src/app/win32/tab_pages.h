@@ -1,8 +1,10 @@
 #pragma once
 // The features behind the tabs, built in one place: the OS services only they use and one page
 // per tab, each registered once with the main window. A new tab adds its page here and one
-// registration line in the constructor.
+// registration line in the constructor. A tab whose rows show file icons owns a
+// platform::win32::IconList member, initialised with services.frmMain.ListHandle(its list).
 #include "mainwindow/main_window_model.h"
+#include "mainwindow/win32/frm_main.h"
 #include "network/connection_table.h"
 #include "network/network_neighbourhood.h"
 #include "platform/win32/dialogs.h"
@@ -17,6 +19,7 @@ struct SharedServices {
     platform::win32::Dialogs& dialogs;
     platform::win32::IpHelper& ipHelper;
     platform::win32::Winsock& winsock;
+    const mainwindow::FrmMain& frmMain;  // the list views
 };
 
 class TabPages {

@@ -12,7 +12,8 @@ COLORREF SystemColour(base::Colour colour) {
 VirtualListView::VirtualListView(HWND parent, int id, base::TableModel& rows, std::span<const Column> columns,
                                  base::TwipsPerPixel twipsPerPixel, const PixelRect& bounds)
     : m_window(base::CreateControl(WC_LISTVIEWW, "",
-                                   WS_CLIPSIBLINGS | WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL,
+                                   WS_CLIPSIBLINGS | WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
+                                       LVS_SHAREIMAGELISTS,
                                    bounds.x, bounds.y, bounds.width, bounds.height, parent, id, WS_EX_CLIENTEDGE)),
       m_rows(rows) {
     int index = 0;

@@ -1,7 +1,8 @@
 #pragma once
 // One list view of frmMain in report view over a table model: the list keeps no rows of its
 // own (LVS_OWNERDATA) and asks for each cell as it draws it, so 10,000 rows cost nothing more
-// to show than 10, and a change of the model is one new item count.
+// to show than 10, and a change of the model is one new item count. A small-icon list given
+// to it (LVM_SETIMAGELIST) stays its owner's: the list view shares it and never destroys it.
 #include <windows.h>
 #include <commctrl.h>
 

@@ -1,0 +1,28 @@
+#include "mainwindow/list_icons.h"
+
+#include "platform/error_trap.h"
+
+namespace mainwindow {
+
+void AddRowIcon(platform::IIconList& icons, const std::string& path, platform::IDialogs& dialogs,
+                const IconErrorTexts& texts) {
+    platform::TrapErrors(dialogs, texts.oneIcon, [&] {
+        if (path == "SYSTEM" || !icons.AddFileIcon(path)) icons.AddStandByIcon();
+    });
+}
+
+void LoadRowIcons(platform::IIconList& icons, const base::TableModel& list, std::size_t pathColumn,
+                  platform::IDialogs& dialogs, const IconErrorTexts& texts) {
+    platform::TrapErrors(dialogs, texts.allIcons, [&] {
+        icons.Clear();
+        for (std::size_t row = 0; row < list.RowCount(); ++row) {
+            AddRowIcon(icons, list.Cell(row, pathColumn), dialogs, texts);
+        }
+    });
+}
+
+void AssignRowIcons(base::TableModel& list) {
+    for (std::size_t row = 0; row < list.RowCount(); ++row) list.SetIcon(row, static_cast<int>(row));
+}
+
+}  // namespace mainwindow
