@@ -5,9 +5,13 @@ namespace app {
 using mainwindow::ListId;
 
 TabPages::TabPages(mainwindow::MainWindowModel& model, SharedServices services)
-    : m_connections(services.dialogs, services.ipHelper, model.List(ListId::lstvAddPort),
+    : m_startupIcons(services.frmMain.ListHandle(ListId::lstvStartup)),
+      m_startup(m_registry, m_startupIcons, model.List(ListId::lstvStartup),
+                [&model] { model.AutomaticLog(logs::LogKind::Startup); }),
+      m_connections(services.dialogs, services.ipHelper, model.List(ListId::lstvAddPort),
                     [&model] { model.AutomaticLog(logs::LogKind::Netstat); }),
       m_neighbourhood(services.dialogs, m_wnet, services.winsock, services.ipHelper, model.List(ListId::lstvPc)) {
+    model.SetTabPage(4, m_startup);
     model.SetTabPage(5, m_connections);
     model.SetTabPage(6, m_neighbourhood);
 }

@@ -7,8 +7,11 @@
 #include "mainwindow/win32/frm_main.h"
 #include "network/connection_table.h"
 #include "network/network_neighbourhood.h"
+#include "system/startup_items.h"
 #include "platform/win32/dialogs.h"
+#include "platform/win32/icon_list.h"
 #include "platform/win32/ip_helper.h"
+#include "platform/win32/registry.h"
 #include "platform/win32/winsock.h"
 #include "platform/win32/wnet.h"
 
@@ -30,6 +33,9 @@ public:
 
 private:
     platform::win32::WNet m_wnet;
+    platform::win32::Registry m_registry;
+    platform::win32::IconList m_startupIcons;
+    system_items::StartupItemsPage m_startup;
     network::ConnectionTablePage m_connections;
     network::NetworkNeighbourhoodPage m_neighbourhood;
 };
