@@ -42,7 +42,7 @@ void Application::LoadMainWindow(const std::string& caption) {
         std::make_unique<MonitoringCycle>(m_program, *this, m_clock, m_ipHelper, *m_trayIcon, *m_guard);
     m_commands =
         std::make_unique<ProgramCommands>(m_program, *this, *m_monitoring, m_dialogs, *m_trayIcon, m_clock);
-    m_pages = std::make_unique<TabPages>(*m_model, SharedServices{m_dialogs, m_ipHelper, m_winsock, *m_frmMain});
+    m_pages = std::make_unique<TabPages>(*m_model, SharedServices{m_dialogs, m_files, m_pump, m_ipHelper, m_winsock, *m_frmMain});
     WireMainWindow();
     m_monitoring->LoadInterfaces();
     if (const auto local = network::LocalAddressText(m_winsock)) m_model->SetPanelText(1, *local);
