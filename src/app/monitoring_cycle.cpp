@@ -15,9 +15,9 @@ constexpr double kGraphClip = 100000;
 
 }  // namespace
 
-MonitoringCycle::MonitoringCycle(Program& program, IMonitorHost& host, platform::IClock& clock,
+MonitoringCycle::MonitoringCycle(Program& program, Window window, platform::IClock& clock,
                                  platform::IIpHelper& ipHelper, platform::ITrayIcon& trayIcon, SessionGuard& guard)
-    : m_program(program), m_host(host), m_clock(clock), m_ipHelper(ipHelper), m_trayIcon(trayIcon), m_guard(guard) {}
+    : m_program(program), m_window(window), m_clock(clock), m_ipHelper(ipHelper), m_trayIcon(trayIcon), m_guard(guard) {}
 
 std::string MonitoringCycle::IconPath(const std::string& iconFile) const {
     return m_program.folder + iconFile;
@@ -32,12 +32,12 @@ unsigned MonitoringCycle::Timer1Interval() const {
 void MonitoringCycle::LoadInterfaces() {
     m_interfaces = m_ipHelper.InterfaceTable();
     m_interfaceTexts = app::InterfaceTexts(m_interfaces);
-    for (const auto& text : m_interfaceTexts) m_host.SetSelectedInterfaceText(text);
-    if (!m_program.settings.nc.empty()) m_host.SetSelectedInterfaceText(m_program.settings.nc);
+    for (const auto& text : m_interfaceTexts) m_window.traffic.SetInterfaceText(text);
+    if (!m_program.settings.nc.empty()) m_window.traffic.SetInterfaceText(m_program.settings.nc);
 }
 
 void MonitoringCycle::StartCommand() {
-    m_host.SetMonitoringTimers(true, Timer1Interval());
+    m_window.switches.SetMonitoringTimers(true, Timer1Interval());
     m_program.tray.shownIcon = kIconOff;
     m_program.tray.tip = MonitoringTip();
     m_trayIcon.Show(IconPath(m_program.tray.shownIcon), m_program.tray.tip);
@@ -49,28 +49,28 @@ void MonitoringCycle::StartCommand() {
 void MonitoringCycle::StartMonitoring() {
     const std::string uptime = UptimeText(m_clock.TickCount());
     m_program.tray.tip = MonitoringTip();
-    m_host.SetRunButtons(true);
-    m_host.MainMonitor().AddRow({base::MonitorStamp(m_clock.Now()) + " " + " 監視を開始しました。" + uptime});
-    m_host.SetMonitoringTimers(true, Timer1Interval());
+    m_window.switches.SetRunButtons(true);
+    m_window.mainMonitor.Rows().AddRow({base::MonitorStamp(m_clock.Now()) + " " + " 監視を開始しました。" + uptime});
+    m_window.switches.SetMonitoringTimers(true, Timer1Interval());
     UpdateDisconnectTimer();
     UpdateTrayIcon();
 }
 
 void MonitoringCycle::StopMonitoring() {
-    m_host.SetMonitoringTimers(false, 0);
-    m_host.SetDisconnectTimer(false);
+    m_window.switches.SetMonitoringTimers(false, 0);
+    m_window.switches.SetDisconnectTimer(false);
     // Only the received side starts afresh: the first sent delta after a restart spans the
     // whole stopped time.
     m_program.traffic.receivedDelta.clear();
     m_program.tray.currentIcon = kIconOff;
     m_program.tray.tip = StoppedTip();
-    m_host.SetRunButtons(false);
-    m_host.MainMonitor().AddRow({base::MonitorStamp(m_clock.Now()) + " 監視を停止しました。"});
+    m_window.switches.SetRunButtons(false);
+    m_window.mainMonitor.Rows().AddRow({base::MonitorStamp(m_clock.Now()) + " 監視を停止しました。"});
     UpdateTrayIcon();
 }
 
 void MonitoringCycle::UpdateDisconnectTimer() {
-    m_host.SetDisconnectTimer(m_host.DisconnectList().RowCount() > 0);
+    m_window.switches.SetDisconnectTimer(m_window.sessions.DisconnectList().RowCount() > 0);
 }
 
 void MonitoringCycle::UpdateTrayIcon() {
@@ -91,7 +91,7 @@ void MonitoringCycle::SampleTraffic() {
     // The row is chosen by the first character of the label alone, so only rows 0 to 9 can
     // be monitored and "12: ..." selects row 1. A row the table lacks reads as a vanished
     // interface: counters 0.
-    const std::string& label = m_host.SelectedInterfaceText();
+    const std::string& label = m_window.traffic.InterfaceText();
     const auto position = static_cast<std::size_t>(base::Val(std::string_view(label).substr(0, 1)));
     std::optional<platform::InterfaceCounters> fresh;
     if (position < m_interfaces.size()) fresh = m_ipHelper.Counters(m_interfaces[position].index);
@@ -106,27 +106,27 @@ void MonitoringCycle::SampleSide(std::uint32_t counter, std::string& now, std::s
     now = std::to_string(static_cast<std::int32_t>(counter));
     if (delta.empty()) {
         before = now;
-        m_host.SetTrafficLabel(side, "0");
+        m_window.traffic.SetLabel(side, "0");
         delta = "0";
         return;
     }
     const double difference = base::Val(now) - base::Val(before);
     delta = base::NumberText(difference);
-    m_host.SetTrafficLabel(side, delta);
+    m_window.traffic.SetLabel(side, delta);
     // The graphs are clipped at 100000; a negative delta (a wrapped counter) passes as it is.
-    m_host.FeedGraph(side, static_cast<float>(difference < kGraphClip ? difference : kGraphClip));
+    m_window.traffic.FeedGraph(side, static_cast<float>(difference < kGraphClip ? difference : kGraphClip));
     before = now;
 }
 
 void MonitoringCycle::MonitoringStep() {
-    const std::int16_t sessions = m_guard.Run(m_host.ComputerNameText());
+    const std::int16_t sessions = m_guard.Run(m_window.sessions.ComputerNameText());
     UpdateDisconnectTimer();
 
     // The figure after "送信" is the received delta (label 0) and the one after "受信" the sent
     // delta (label 1), and an interval with nothing received writes no row.
-    const std::string received = m_host.TrafficLabel(0);
+    const std::string received = m_window.traffic.Label(0);
     if (m_program.settings.packet == 1 && base::Val(received) != 0) AddTrafficRow(received);
-    if (m_program.settings.window == 1 && m_host.SessionList().RowCount() != m_announcedSessions) {
+    if (m_program.settings.window == 1 && m_window.sessions.SessionList().RowCount() != m_announcedSessions) {
         AnnounceSessions();
     }
 
@@ -140,15 +140,15 @@ void MonitoringCycle::MonitoringStep() {
 }
 
 void MonitoringCycle::AddTrafficRow(const std::string& received) {
-    m_host.MainMonitor().AddRow({base::MonitorStamp(m_clock.Now()) + "  送信 : " + KilobyteFigure(received) + " KB" +
-                                 "  受信 : " + KilobyteFigure(m_host.TrafficLabel(1)) + " KB"});
+    m_window.mainMonitor.Rows().AddRow({base::MonitorStamp(m_clock.Now()) + "  送信 : " + KilobyteFigure(received) + " KB" +
+                                 "  受信 : " + KilobyteFigure(m_window.traffic.Label(1)) + " KB"});
 }
 
 void MonitoringCycle::AnnounceSessions() {
-    const base::TableModel& sessions = m_host.SessionList();
+    const base::TableModel& sessions = m_window.sessions.SessionList();
     m_announcedSessions = sessions.RowCount();
     for (std::size_t row = 0; row < sessions.RowCount(); ++row) {
-        m_host.RaiseAlert("[マシン名]\r\n" + sessions.Cell(row, 0) + "\r\n[ユーザ名]\r\n" + sessions.Cell(row, 1));
+        m_window.alerts.Raise("[マシン名]\r\n" + sessions.Cell(row, 0) + "\r\n[ユーザ名]\r\n" + sessions.Cell(row, 1));
     }
 }
 

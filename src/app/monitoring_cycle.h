@@ -4,7 +4,7 @@
 // the session alert and keeps the tray icon up to date.
 #include <vector>
 
-#include "app/monitor_host.h"
+#include "app/monitor_window.h"
 #include "app/program.h"
 #include "app/session_guard.h"
 #include "platform/clock.h"
@@ -15,7 +15,15 @@ namespace app {
 
 class MonitoringCycle {
 public:
-    MonitoringCycle(Program& program, IMonitorHost& host, platform::IClock& clock, platform::IIpHelper& ipHelper,
+    // The parts of the main window the monitoring works on.
+    struct Window {
+        IMainMonitor& mainMonitor;
+        ISessionWindow& sessions;
+        ITrafficDisplay& traffic;
+        IMonitoringSwitches& switches;
+        IAlerts& alerts;
+    };
+    MonitoringCycle(Program& program, Window window, platform::IClock& clock, platform::IIpHelper& ipHelper,
                     platform::ITrayIcon& trayIcon, SessionGuard& guard);
 
     // When the main window loads: reads the interface table, keeps a copy, and sets the
@@ -49,7 +57,7 @@ private:
     std::string IconPath(const std::string& iconFile) const;
 
     Program& m_program;
-    IMonitorHost& m_host;
+    Window m_window;
     platform::IClock& m_clock;
     platform::IIpHelper& m_ipHelper;
     platform::ITrayIcon& m_trayIcon;

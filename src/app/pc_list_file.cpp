@@ -3,6 +3,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/runtime_error.h"
 #include "base/text_encoding.h"
 
 namespace app {
@@ -58,7 +59,9 @@ void SavePcList(platform::IFileSystem& files, const std::string& path, bool enfo
                 const std::array<std::string, 20>& entries) {
     std::string bytes = Record(enforced ? kListOn : kListOff);
     for (const auto& entry : entries) bytes += Record(base::Utf8ToAnsi(entry));
-    if (auto file = files.Open(path, platform::OpenMode::Output)) file->Write(bytes);
+    const auto file = files.Open(path, platform::OpenMode::Output);
+    if (!file) throw base::RuntimeError(base::RuntimeErrorNumber::PathFileAccess);
+    file->Write(bytes);
 }
 
 }  // namespace app

@@ -16,7 +16,8 @@ inline constexpr const char* kDenyListFile = "pcset2.ini";
 // 0, 1, 2 ... A file with more than 21 records raises the runtime's subscript error.
 void LoadPcList(platform::IFileSystem& files, const std::string& path, PcList& list);
 
-// Writes the switch and the twenty entries as 21 records.
+// Writes the switch and the twenty entries as 21 records. A file that cannot be opened for
+// writing raises the runtime's path/file access error: nothing on the way traps it.
 void SavePcList(platform::IFileSystem& files, const std::string& path, bool enforced,
                 const std::array<std::string, 20>& entries);
 

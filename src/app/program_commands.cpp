@@ -2,6 +2,7 @@
 
 #include "base/local_time.h"
 #include "base/product.h"
+#include "base/reentry_guard.h"
 
 namespace app {
 namespace {
@@ -13,28 +14,33 @@ bool Confirmed(platform::IDialogs& dialogs, const char* question) {
 
 }  // namespace
 
-ProgramCommands::ProgramCommands(Program& program, IMonitorHost& host, MonitoringCycle& monitoring,
+ProgramCommands::ProgramCommands(Program& program, IMainMonitor& mainMonitor, MonitoringCycle& monitoring,
                                  platform::IDialogs& dialogs, platform::ITrayIcon& trayIcon, platform::IClock& clock)
-    : m_program(program), m_host(host), m_monitoring(monitoring), m_dialogs(dialogs), m_trayIcon(trayIcon),
+    : m_program(program), m_mainMonitor(mainMonitor), m_monitoring(monitoring), m_dialogs(dialogs), m_trayIcon(trayIcon),
       m_clock(clock) {}
 
-bool ProgramCommands::Exit() {
+bool ProgramCommands::Exit(const std::function<void()>& hideMainWindow) {
     if (!Confirmed(m_dialogs, "終了してもよろしいですか？")) return false;
-    m_monitoring.StopMonitoring();  // what unloading the main window does
-    if (m_program.settings.logflag == 1) m_host.SaveMainMonitor();
+    // Unloading the main window: it goes from the screen and monitoring stops, before the save
+    // pumps messages for a while.
+    hideMainWindow();
+    m_monitoring.StopMonitoring();
+    if (m_program.settings.logflag == 1) m_mainMonitor.Save();
     m_trayIcon.Remove();
     return true;
 }
 
 void ProgramCommands::WindowsSessionEnding() {
-    if (m_program.settings.logflag != 1) return;
-    m_host.MainMonitor().AddRow({base::MonitorStamp(m_clock.Now()) + "Windowsが終了されました。"});
-    m_host.SaveMainMonitor();
+    // Asked again while its own save pumps messages, the session has ended once: one row, one file.
+    const base::ReentryGuard ending(m_sessionEnding);
+    if (m_program.settings.logflag != 1 || !ending.First()) return;
+    m_mainMonitor.Rows().AddRow({base::MonitorStamp(m_clock.Now()) + "Windowsが終了されました。"});
+    m_mainMonitor.Save();
 }
 
 void ProgramCommands::ClearMainMonitor() {
     if (!Confirmed(m_dialogs, "メインモニタをクリアしてもよろしいですか？")) return;
-    base::TableModel& monitor = m_host.MainMonitor();
+    base::TableModel& monitor = m_mainMonitor.Rows();
     monitor.Clear();
     monitor.AddRow({base::kBanner});
 }

@@ -1,7 +1,6 @@
 #include "app/session_guard.h"
 
 #include <iterator>
-#include <utility>
 
 #include "app/traffic_text.h"
 #include "base/conversions.h"
@@ -25,30 +24,24 @@ bool Listed(const PcList& list, const std::string& client) {
     return false;
 }
 
-// The open files of one more answer; a tick runs it only when other users hold files open.
-void Append(std::vector<platform::OpenFileInfo>& files, std::vector<platform::OpenFileInfo> more) {
-    files.insert(files.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
-}
-
 }  // namespace
 
-SessionGuard::SessionGuard(Program& program, IMonitorHost& host, platform::INetApi& net, IClientLookup& lookup,
-                           platform::IBeeper& beeper, platform::IClock& clock)
-    : m_program(program), m_host(host), m_net(net), m_lookup(lookup), m_beeper(beeper), m_clock(clock) {}
+SessionGuard::SessionGuard(Program& program, Window window, Services services)
+    : m_program(program), m_window(window), m_services(services) {}
 
-std::string SessionGuard::Stamp() { return base::MonitorStamp(m_clock.Now()); }
+std::string SessionGuard::Stamp() { return base::MonitorStamp(m_services.clock.Now()); }
 
 std::int16_t SessionGuard::Run(const std::string& server) {
     std::int16_t count = 0;
-    m_host.SessionList().Clear();
+    m_window.sessions.SessionList().Clear();
     m_program.tray.tip.clear();
 
     std::uint32_t resume = 0;
     platform::SessionBatch batch;
     do {
-        batch = m_net.EnumSessions(server, resume);
+        batch = m_services.net.EnumSessions(server, resume);
         if (Answered(batch.status) && !batch.records.empty()) CountSessions(batch.records, count);
-        m_host.DoEvents();
+        m_services.pump.DoEvents();
     } while (batch.entriesRead != batch.totalEntries);
 
     if (count == 0) {
@@ -63,18 +56,17 @@ std::int16_t SessionGuard::Run(const std::string& server) {
 
 void SessionGuard::CountSessions(const std::vector<platform::SessionInfo>& sessions,
                                               std::int16_t& count) {
-    if (!m_clients) m_clients = std::make_unique<base::FixedArray<std::string, 0, 99>>();
     for (const auto& session : sessions) {
         if (session.userName.empty()) continue;  // a null session
         count = base::ToInt16(count + 1.0);
-        if (m_program.settings.beep == 1) m_beeper.Beep();
-        (*m_clients)[count - 1] = session.clientName;  // the n-th session of the tick takes slot n - 1
+        if (m_program.settings.beep == 1) m_services.beeper.Beep();
+        m_clients[count - 1] = session.clientName;  // the n-th session of the tick takes slot n - 1
         RecordSession(session);
     }
 }
 
 void SessionGuard::ShowServer(const std::string& server) {
-    m_host.SetStatusPanel(2, "サーバ : " + server);
+    m_window.sessions.SetServerPanel("サーバ : " + server);
     m_panelServer = server;
 }
 
@@ -82,15 +74,15 @@ void SessionGuard::RecordSession(const platform::SessionInfo& session) {
     const std::string& client = session.clientName;
     std::string address = client;
     std::string hostName = client;
-    if (const auto found = m_lookup.Lookup(client)) {
+    if (const auto found = m_services.lookup.Lookup(client)) {
         if (!found->address.empty()) address = found->address;
         if (!found->hostName.empty()) hostName = found->hostName;
     }
-    m_host.MainMonitor().AddRow({Stamp() + "  PC : " + client + "(" + address + "/" + hostName + ")" +
+    m_window.mainMonitor.Rows().AddRow({Stamp() + "  PC : " + client + "(" + address + "/" + hostName + ")" +
                                  " USER : " + session.userName + " OS : " + session.clientType + " 送信 : " +
-                                 KilobyteFigure(m_host.TrafficLabel(0)) + " KB" + " 受信 : " +
-                                 KilobyteFigure(m_host.TrafficLabel(1)) + " KB"});
-    m_host.SessionList().AddRow({client, session.userName});
+                                 KilobyteFigure(m_window.traffic.Label(0)) + " KB" + " 受信 : " +
+                                 KilobyteFigure(m_window.traffic.Label(1)) + " KB"});
+    m_window.sessions.SessionList().AddRow({client, session.userName});
     m_program.tray.tip += "[" + client + "]";
     CheckLists(client, session.userName);
 }
@@ -106,16 +98,22 @@ void SessionGuard::CheckLists(const std::string& client, const std::string& user
 }
 
 void SessionGuard::MarkForDisconnection(const char* reason, const std::string& client, const std::string& user) {
-    m_host.MainMonitor().AddRow({Stamp() + reason + client + "に対して切断処理を実行しました｡"});
-    m_host.DisconnectList().AddRow({user, client});
+    m_window.mainMonitor.Rows().AddRow({Stamp() + reason + client + "に対して切断処理を実行しました｡"});
+    // A violator is marked again at every tick while it stays connected: one row per client keeps
+    // Timer2's work flat however long that lasts.
+    base::TableModel& list = m_window.sessions.DisconnectList();
+    for (std::size_t row = 0; row < list.RowCount(); ++row) {
+        if (list.Cell(row, 1) == client) return;
+    }
+    list.AddRow({user, client});
 }
 
 void SessionGuard::DisconnectMarked() {
-    base::TableModel& list = m_host.DisconnectList();
+    base::TableModel& list = m_window.sessions.DisconnectList();
     for (std::size_t row = 0; row < list.RowCount(); ++row) {
         const std::string client = list.Cell(row, 1);
         if (client.empty()) continue;
-        m_net.DeleteSession(client, list.Cell(row, 0));  // a failure is tried again at the next tick
+        m_services.net.DeleteSession(client, list.Cell(row, 0));  // a failure is tried again at the next tick
     }
 }
 
@@ -124,25 +122,26 @@ void SessionGuard::LogOpenFiles() {
     std::uintptr_t resume = 0;
     platform::FileBatch batch;
     do {
-        batch = m_net.EnumOpenFiles(resume);
+        batch = m_services.net.EnumOpenFiles(resume);
         if (!Answered(batch.status)) return;
-        if (!batch.records.empty()) Append(files, std::move(batch.records));
+        files.insert(files.end(), std::make_move_iterator(batch.records.begin()),
+                     std::make_move_iterator(batch.records.end()));
     } while (batch.status == platform::kErrorMoreData);
 
     if (!files.empty()) AddOpenFileRows(files);
-    if (m_host.MainMonitor().RowCount() > kAutosaveRows) AutosaveMainMonitor();
+    if (m_window.mainMonitor.Rows().RowCount() > kAutosaveRows) AutosaveMainMonitor();
 }
 
 void SessionGuard::AddOpenFileRows(const std::vector<platform::OpenFileInfo>& files) {
-    base::TableModel& monitor = m_host.MainMonitor();
+    base::TableModel& monitor = m_window.mainMonitor.Rows();
     for (const auto& file : files) {
         monitor.AddRow({Stamp() + "  使用中のファイル : " + file.pathName + " USER : " + file.userName});
     }
 }
 
 void SessionGuard::AutosaveMainMonitor() {
-    base::TableModel& monitor = m_host.MainMonitor();
-    m_host.SaveMainMonitor();
+    base::TableModel& monitor = m_window.mainMonitor.Rows();
+    m_window.mainMonitor.Save();
     monitor.Clear();
     monitor.AddRow({base::kBanner});
     monitor.AddRow({Stamp() + "  ログを自動保存しました。"});

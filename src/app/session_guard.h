@@ -3,25 +3,37 @@
 // this PC's shares, records them in the main monitor, beeps, and marks the PCs that break
 // the enforced deny or allow list for disconnection.
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "app/client_lookup.h"
-#include "app/monitor_host.h"
+#include "app/monitor_window.h"
 #include "app/program.h"
 #include "base/fixed_array.h"
 #include "platform/beeper.h"
 #include "platform/clock.h"
+#include "platform/message_pump.h"
 #include "platform/netapi.h"
 
 namespace app {
 
 class SessionGuard {
 public:
-    SessionGuard(Program& program, IMonitorHost& host, platform::INetApi& net, IClientLookup& lookup,
-                 platform::IBeeper& beeper, platform::IClock& clock);
+    // The parts of the main window the guard writes to.
+    struct Window {
+        IMainMonitor& mainMonitor;
+        ISessionWindow& sessions;
+        ITrafficDisplay& traffic;  // the traffic labels give a session row its figures
+    };
+    struct Services {
+        platform::INetApi& net;
+        IClientLookup& lookup;
+        platform::IBeeper& beeper;
+        platform::IMessagePump& pump;
+        platform::IClock& clock;
+    };
+    SessionGuard(Program& program, Window window, Services services);
 
     // Runs the guard for the server and returns the number of sessions counted.
     std::int16_t Run(const std::string& server);
@@ -45,16 +57,11 @@ private:
     std::string Stamp();
 
     Program& m_program;
-    IMonitorHost& m_host;
-    platform::INetApi& m_net;
-    IClientLookup& m_lookup;
-    platform::IBeeper& m_beeper;
-    platform::IClock& m_clock;
+    Window m_window;
+    Services m_services;
     std::optional<std::string> m_panelServer;  // the server panel 2 names
     // The clients of one tick are kept in 100 slots: a 101st session raises the subscript error.
-    // The slots are made at the first session and outlive the tick: a tick without sessions
-    // neither makes nor frees a hundred of them.
-    std::unique_ptr<base::FixedArray<std::string, 0, 99>> m_clients;
+    base::FixedArray<std::string, 0, 99> m_clients;
 };
 
 }  // namespace app

@@ -22,9 +22,26 @@ bool WriteManifestAndRestart(StartupServices& s) {
     return true;
 }
 
+// This copy's turn at starting; it ends once the main window carries the banner, or with start-up.
+class StartTurn {
+public:
+    explicit StartTurn(platform::IInstance& instance) : m_instance(&instance) { instance.LockStart(); }
+    ~StartTurn() { End(); }
+    StartTurn(const StartTurn&) = delete;
+    StartTurn& operator=(const StartTurn&) = delete;
+    void End() {
+        if (m_instance) m_instance->UnlockStart();
+        m_instance = nullptr;
+    }
+
+private:
+    platform::IInstance* m_instance;
+};
+
 }  // namespace
 
 StartupOutcome RunStartup(Program& program, StartupServices& s, IStartupHost& host) {
+    StartTurn turn(s.instance);
     if (s.instance.IsAnotherCopyRunning()) {
         // When the other copy shows no banner window, this copy starts normally beside it.
         if (s.instance.ActivateWindowTitled(base::kBanner)) return StartupOutcome::HandedToRunningCopy;
@@ -39,6 +56,7 @@ StartupOutcome RunStartup(Program& program, StartupServices& s, IStartupHost& ho
     LoadPcList(s.files, program.folder + kDenyListFile, program.denyList);
 
     host.LoadMainWindow(base::kBanner);
+    turn.End();  // later copies now find this one
     host.AddMainMonitorRow(base::kBanner);
     if (const auto name = s.system.ComputerName()) host.SetComputerNameText(*name);
 

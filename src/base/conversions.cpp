@@ -48,18 +48,8 @@ std::optional<double> ParseHex(std::string_view digits, bool negative) {
 
 }  // namespace
 
-// Worked out with a whole-number conversion rather than std::remainder: the trend graphs round
-// several measures at every tick, and the library's code would be one more page per tick.
-double RoundHalfEven(double value) {
-    constexpr double kWholeFrom = 4503599627370496.0;  // 2^52: from here on every double is whole
-    if (!(std::fabs(value) < kWholeFrom)) return value;  // infinities and NaN included
-    const auto whole = static_cast<std::int64_t>(value);  // toward zero
-    const double fraction = value - static_cast<double>(whole);  // exact
-    const bool odd = whole % 2 != 0;
-    if (fraction > 0.5 || (fraction == 0.5 && odd)) return static_cast<double>(whole + 1);
-    if (fraction < -0.5 || (fraction == -0.5 && odd)) return static_cast<double>(whole - 1);
-    return static_cast<double>(whole);
-}
+// The default rounding mode rounds half to even.
+double RoundHalfEven(double value) { return std::nearbyint(value); }
 
 std::int16_t ToInt16(double value) { return ToWhole<std::int16_t>(value); }
 std::uint8_t ToByte(double value) { return ToWhole<std::uint8_t>(value); }
@@ -128,22 +118,7 @@ std::uint8_t ToByte(std::string_view text) { return FromText<std::uint8_t>(text,
 std::int32_t ToInt32(std::string_view text) { return FromText<std::int32_t>(text, ToInt32); }
 double ToDouble(std::string_view text) { return FromText<double>(text, Identity); }
 
-namespace {
-// Up to 15 digits with an optional sign and nothing else, exactly; the monitoring tick reads its
-// counters this way every second, so they skip the copies and strtod below.
-std::optional<double> PlainWhole(std::string_view text) {
-    std::size_t i = !text.empty() && (text[0] == '-' || text[0] == '+') ? 1 : 0;
-    if (text.size() == i || text.size() - i > 15) return std::nullopt;
-    std::int64_t value = 0;
-    for (; i < text.size(); ++i) {
-        if (text[i] < '0' || text[i] > '9') return std::nullopt;
-        value = value * 10 + (text[i] - '0');
-    }
-    return text[0] == '-' ? -static_cast<double>(value) : static_cast<double>(value);  // "-0" stays -0
-}
-
-// Val of anything but a plain whole number: blanks left out, "&H" hex, fractions and exponents.
-double ValOfText(std::string_view text) {
+double Val(std::string_view text) {
     std::string packed;
     for (char c : text) {
         if (!IsBlank(c)) packed += c;
@@ -171,15 +146,8 @@ double ValOfText(std::string_view text) {
             i = j;
         }
     }
-    const std::string number = packed.substr(0, i);
-    return std::strtod(number.c_str(), nullptr);
-}
-
-}  // namespace
-
-double Val(std::string_view text) {
-    if (const auto whole = PlainWhole(text)) return *whole;
-    return ValOfText(text);
+    packed.resize(i);
+    return std::strtod(packed.c_str(), nullptr);
 }
 
 std::string NumberText(double value) {

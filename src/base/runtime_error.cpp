@@ -8,6 +8,7 @@ std::string RuntimeErrorDescription(RuntimeErrorNumber number) {
     case RuntimeErrorNumber::SubscriptOutOfRange: return "インデックスが有効範囲にありません。";
     case RuntimeErrorNumber::DivisionByZero: return "0 で除算しました。";
     case RuntimeErrorNumber::TypeMismatch: return "型が一致しません。";
+    case RuntimeErrorNumber::PathFileAccess: return "パス名が無効です。";
     }
     return "アプリケーション定義またはオブジェクト定義のエラーです。";
 }

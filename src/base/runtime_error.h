@@ -12,6 +12,7 @@ enum class RuntimeErrorNumber : int {
     SubscriptOutOfRange = 9,
     DivisionByZero = 11,
     TypeMismatch = 13,
+    PathFileAccess = 75,
 };
 
 class RuntimeError : public std::runtime_error {

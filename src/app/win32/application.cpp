@@ -37,12 +37,19 @@ void Application::LoadMainWindow(const std::string& caption) {
     m_frmMain = std::make_unique<mainwindow::FrmMain>(*m_model);
     m_frmDemo = std::make_unique<controls::DemoWindow>();
     m_trayIcon = std::make_unique<platform::win32::TrayIcon>(m_frmMain->Handle());
-    m_guard = std::make_unique<SessionGuard>(m_program, *this, m_net, m_clientLookup, m_beeper, m_clock);
-    m_monitoring =
-        std::make_unique<MonitoringCycle>(m_program, *this, m_clock, m_ipHelper, *m_trayIcon, *m_guard);
-    m_commands =
-        std::make_unique<ProgramCommands>(m_program, *this, *m_monitoring, m_dialogs, *m_trayIcon, m_clock);
+    m_views = std::make_unique<MonitorViews>(*m_model, *m_frmMain, *m_frmDemo);
+    m_guard = std::make_unique<SessionGuard>(
+        m_program, SessionGuard::Window{m_views->mainMonitor, m_views->sessions, m_views->traffic},
+        SessionGuard::Services{m_net, m_clientLookup, m_beeper, m_pump, m_clock});
+    m_monitoring = std::make_unique<MonitoringCycle>(
+        m_program,
+        MonitoringCycle::Window{m_views->mainMonitor, m_views->sessions, m_views->traffic, m_views->switches,
+                                m_views->alerts},
+        m_clock, m_ipHelper, *m_trayIcon, *m_guard);
+    m_commands = std::make_unique<ProgramCommands>(m_program, m_views->mainMonitor, *m_monitoring, m_dialogs,
+                                                   *m_trayIcon, m_clock);
     m_pages = std::make_unique<TabPages>(*m_model, SharedServices{m_dialogs, m_files, m_pump, m_ipHelper, m_winsock, *m_frmMain});
+    m_menus = std::make_unique<HelpAndTrayMenus>(*m_model, *m_frmMain, *m_trayIcon, m_dialogs);
     WireMainWindow();
     m_monitoring->LoadInterfaces();
     if (const auto local = network::LocalAddressText(m_winsock)) m_model->SetPanelText(1, *local);
@@ -57,7 +64,7 @@ void Application::WireMainWindow() {
         [this] { m_monitoring->StopMonitoring(); },
         [this] { m_commands->ClearMainMonitor(); },
         [this] {
-            if (m_commands->Exit()) EndProgram();
+            if (m_commands->Exit([this] { ShowWindow(m_frmMain->Handle(), SW_HIDE); })) EndProgram();
         },
     });
     m_model->SetTimerInterval(FormTimer::Timer2, kTimer2Interval);
@@ -97,42 +104,5 @@ void Application::SetComputerNameText(const std::string& name) { m_model->SetCom
 void Application::ShowMainWindow() { m_model->SetVisible(true); }
 void Application::StartMonitoring() { m_monitoring->StartMonitoring(); }
 void Application::SetStatusPanel(int panel, const std::string& text) { m_model->SetPanelText(panel, text); }
-
-// --- The monitoring cycle's view of the window
-
-base::TableModel& Application::MainMonitor() { return m_model->List(mainwindow::ListId::lstvMain); }
-base::TableModel& Application::SessionList() { return m_model->List(mainwindow::ListId::ListView1); }
-base::TableModel& Application::DisconnectList() { return m_model->List(mainwindow::ListId::ListView2); }
-const std::string& Application::ComputerNameText() { return m_model->ComputerNameText(); }
-const std::string& Application::SelectedInterfaceText() { return m_model->InterfaceLabel(); }
-void Application::SetSelectedInterfaceText(const std::string& text) { m_model->SetInterfaceLabel(text); }
-const std::string& Application::TrafficLabel(int index) { return m_model->TrafficLabel(index); }
-void Application::SetTrafficLabel(int index, const std::string& text) {
-    m_model->SetTrafficLabel(index, text);
-}
-void Application::FeedGraph(int index, float value) { m_frmMain->Graph(index).setValue(value); }
-
-void Application::SetMonitoringTimers(bool enabled, unsigned timer1IntervalMs) {
-    using mainwindow::FormTimer;
-    m_model->SetTimerInterval(FormTimer::Timer1, static_cast<int>(std::min(timer1IntervalMs, 0x7FFFFFFFu)));
-    m_model->SetTimerEnabled(FormTimer::Timer1, enabled);
-}
-
-void Application::SetDisconnectTimer(bool enabled) {
-    m_model->SetTimerEnabled(mainwindow::FormTimer::Timer2, enabled);
-}
-
-void Application::SetRunButtons(bool running) {
-    m_model->SetButtonEnabled("run", !running);
-    m_model->SetButtonEnabled("stop", running);
-}
-
-void Application::RaiseAlert(const std::string& text) {
-    m_frmDemo->Form().SetText1(text);
-    m_frmDemo->Form().Command1Click();
-}
-
-void Application::SaveMainMonitor() { m_model->SaveMainMonitor(); }
-void Application::DoEvents() { m_pump.DoEvents(); }
 
 }  // namespace app

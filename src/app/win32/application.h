@@ -3,12 +3,13 @@
 // monitoring, wired together. It is what start-up and the monitoring cycle act on.
 #include <memory>
 
-#include "app/monitor_host.h"
 #include "app/monitoring_cycle.h"
 #include "app/program.h"
 #include "app/program_commands.h"
 #include "app/session_guard.h"
+#include "app/win32/help_and_tray_menus.h"
 #include "app/startup.h"
+#include "app/win32/monitor_views.h"
 #include "app/win32/tab_pages.h"
 #include "app/winsock_client_lookup.h"
 #include "controls/win32/demo_window.h"
@@ -29,9 +30,7 @@
 
 namespace app {
 
-// IMonitorHost comes first: the monitoring tick calls it every second, and calls through the first
-// base need no this-adjusting thunk, which would be one more code page per tick.
-class Application final : public IMonitorHost, public IStartupHost {
+class Application final : public IStartupHost {
 public:
     Application() = default;
     ~Application() override;
@@ -49,23 +48,6 @@ private:
     void ShowMainWindow() override;
     void StartMonitoring() override;
     void SetStatusPanel(int panel, const std::string& text) override;
-
-    // IMonitorHost
-    base::TableModel& MainMonitor() override;
-    base::TableModel& SessionList() override;
-    base::TableModel& DisconnectList() override;
-    const std::string& ComputerNameText() override;
-    const std::string& SelectedInterfaceText() override;
-    void SetSelectedInterfaceText(const std::string& text) override;
-    const std::string& TrafficLabel(int index) override;
-    void SetTrafficLabel(int index, const std::string& text) override;
-    void FeedGraph(int index, float value) override;
-    void SetMonitoringTimers(bool enabled, unsigned timer1IntervalMs) override;
-    void SetDisconnectTimer(bool enabled) override;
-    void SetRunButtons(bool running) override;
-    void RaiseAlert(const std::string& text) override;
-    void SaveMainMonitor() override;
-    void DoEvents() override;
 
     void WireMainWindow();
     void OpenOptions();
@@ -88,11 +70,13 @@ private:
     std::unique_ptr<mainwindow::MainWindowModel> m_model;
     std::unique_ptr<mainwindow::FrmMain> m_frmMain;
     std::unique_ptr<controls::DemoWindow> m_frmDemo;
+    std::unique_ptr<MonitorViews> m_views;
     std::unique_ptr<platform::win32::TrayIcon> m_trayIcon;
     std::unique_ptr<SessionGuard> m_guard;
     std::unique_ptr<MonitoringCycle> m_monitoring;
     std::unique_ptr<ProgramCommands> m_commands;
     std::unique_ptr<TabPages> m_pages;
+    std::unique_ptr<HelpAndTrayMenus> m_menus;
 };
 
 }  // namespace app

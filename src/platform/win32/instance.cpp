@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cwchar>
 #include <vector>
 
 #include "base/win32/wide.h"
@@ -58,14 +59,32 @@ std::string Instance::VersionComments() {
     return base::Narrow(comments);
 }
 
-bool Instance::IsAnotherCopyRunning() {
-    // One name per executable path and user session, like the runtime's own test.
-    const std::wstring prefix = L"Local\\Veskar_Lookout:";
+std::wstring Instance::MutexName(const wchar_t* prefix) {
     std::wstring name = prefix + ExecutablePath();
-    for (std::size_t i = prefix.size(); i < name.size(); ++i) {
+    for (std::size_t i = std::wcslen(prefix); i < name.size(); ++i) {
         if (name[i] == L'\\') name[i] = L'/';
     }
-    m_mutex.Reset(CreateMutexW(nullptr, FALSE, name.c_str()));
+    return name;
+}
+
+void Instance::LockStart() {
+    // Long enough for a copy to make its window on a busy machine; a copy stuck before that
+    // (a message box about its settings) does not hold the others for ever.
+    constexpr DWORD kLongestTurnMs = 30000;
+    m_startLock.Reset(CreateMutexW(nullptr, FALSE, MutexName(L"Local\\Veskar_Lookout start:").c_str()));
+    if (!m_startLock) return;
+    const DWORD waited = WaitForSingleObject(m_startLock.Get(), kLongestTurnMs);
+    m_startLockOwned = waited == WAIT_OBJECT_0 || waited == WAIT_ABANDONED;
+}
+
+void Instance::UnlockStart() {
+    if (m_startLockOwned) ReleaseMutex(m_startLock.Get());
+    m_startLockOwned = false;
+    m_startLock.Reset();
+}
+
+bool Instance::IsAnotherCopyRunning() {
+    m_mutex.Reset(CreateMutexW(nullptr, FALSE, MutexName(L"Local\\Veskar_Lookout:").c_str()));
     return m_mutex && GetLastError() == ERROR_ALREADY_EXISTS;
 }
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The options dialog opens from the Tools menu with the settings and both PC lists; OK writes the
 # two list files (21 quoted records each) and setting.ini and shows the new interval at once;
-# Cancel changes no file.
+# Cancel changes no file; a list that cannot be written ends the program with the runtime's error.
 source "$(dirname "$0")/../lib.sh"
 e2e_begin
 e2e_write_settings open=1 start=0 logflag=0
@@ -59,3 +59,16 @@ settings=$(e2e_file_text setting.ini)
 assert_contains "$settings" $'time=30\r' "the interval is written"
 status=$(drive status --title "$E2E_BANNER")
 assert_line "$status" $'3\tログ間隔 : 30秒' "panel 4 shows the new interval"
+
+# A list file that cannot be written is an error nothing traps: the runtime's error box, then the
+# end, with setting.ini as it was.
+rm "$E2E_PROGRAM_DIR/pcset2.ini"
+mkdir "$E2E_PROGRAM_DIR/pcset2.ini"  # read-only files are writable for root, a folder is not
+settings=$(md5sum "$E2E_PROGRAM_DIR/setting.ini")
+open_options
+drive click --title "全般的な設定" --caption OK
+box=$(drive messagebox --process "$E2E_PROCESS" --timeout 10000)
+assert_line "$box" $'text\t実行時エラー \'75\':\\r\\n\\r\\nパス名が無効です。' "the runtime's error box"
+drive messagebox-click OK --process "$E2E_PROCESS"
+e2e_wait_program_end 20 "the program after the error box"
+assert_eq "$settings" "$(md5sum "$E2E_PROGRAM_DIR/setting.ini")" "setting.ini is not written"

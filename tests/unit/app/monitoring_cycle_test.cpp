@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "app/uptime.h"
-#include "fakes/fake_clock.h"
-#include "fakes/fake_ip_helper.h"
 #include "monitoring_fakes.h"
 
 namespace app {
@@ -17,7 +15,7 @@ TEST(Uptime, FieldsKeepTheirLastTwoDigits) {
     EXPECT_EQ(UptimeText(123 * 3600000u + 4 * 60000u + 5000u), "Windows起動の経過時間 23:04:05");  // 123 hours
 }
 
-class MonitoringCycleTest : public ::testing::Test {
+class MonitoringCycleTest : public ::testing::Test, protected ::fakes::MonitoringRig {
 protected:
     MonitoringCycleTest() {
         program.folder = "C:\\L\\";
@@ -34,81 +32,70 @@ protected:
     // The cycle started from the toolbar on interface 1 ("1: eth0").
     void StartOnEth0() {
         cycle.LoadInterfaces();
-        host.selectedInterface = "1: eth0";
+        traffic.interfaceText = "1: eth0";
         cycle.StartCommand();
     }
-    std::size_t Rows() const { return host.mainMonitor.RowCount(); }
-
-    Program program;
-    ::fakes::FakeMonitorHost host;
-    ::fakes::FakeNetApi net;
-    ::fakes::FakeLookup lookup;
-    ::fakes::FakeBeeper beeper;
-    ::fakes::FakeIpHelper ipHelper;
-    ::fakes::FakeTrayIcon tray;
-    ::fakes::FakeClock clock;
-    SessionGuard guard{program, host, net, lookup, beeper, clock};
-    MonitoringCycle cycle{program, host, clock, ipHelper, tray, guard};
+    std::size_t Rows() const { return monitor.rows.RowCount(); }
 };
 
 TEST_F(MonitoringCycleTest, InterfaceLabelEndsOnTheLastRowOrTheStoredChoice) {
     cycle.LoadInterfaces();
     EXPECT_EQ(cycle.InterfaceTexts(), (std::vector<std::string>{"0: lo", "1: eth0"}));
-    EXPECT_EQ(host.selectedInterface, "1: eth0");
+    EXPECT_EQ(traffic.interfaceText, "1: eth0");
     program.settings.nc = "0: lo";
     cycle.LoadInterfaces();
-    EXPECT_EQ(host.selectedInterface, "0: lo");
+    EXPECT_EQ(traffic.interfaceText, "0: lo");
 }
 
 TEST_F(MonitoringCycleTest, StartAndStopWriteTheirRowsAndSwitchTimersButtonsAndTray) {
     clock.ticks = 3723000;
     StartOnEth0();
-    EXPECT_TRUE(host.timersOn);
-    EXPECT_EQ(host.timer1Interval, 1000u);
-    EXPECT_TRUE(host.runButtonsShowRunning);
-    EXPECT_EQ(host.LastRow(), "[2005/06/22 09:05:03]  監視を開始しました。Windows起動の経過時間 01:02:03");
+    EXPECT_TRUE(switches.timersOn);
+    EXPECT_EQ(switches.timer1Interval, 1000u);
+    EXPECT_TRUE(switches.running);
+    EXPECT_EQ(monitor.LastRow(), "[2005/06/22 09:05:03]  監視を開始しました。Windows起動の経過時間 01:02:03");
     ASSERT_FALSE(tray.shown.empty());
     EXPECT_EQ(tray.shown.back(), "C:\\L\\veskarnetoff.ico|Veskar_Lookout  －監視中－");
 
     cycle.StopMonitoring();
-    EXPECT_FALSE(host.timersOn);
-    EXPECT_FALSE(host.runButtonsShowRunning);
-    EXPECT_EQ(host.LastRow(), "[2005/06/22 09:05:03] 監視を停止しました。");
+    EXPECT_FALSE(switches.timersOn);
+    EXPECT_FALSE(switches.running);
+    EXPECT_EQ(monitor.LastRow(), "[2005/06/22 09:05:03] 監視を停止しました。");
     EXPECT_EQ(tray.shown.back(), "C:\\L\\veskarnetoff.ico|Veskar_Lookout  －停止中－");
 }
 
 TEST_F(MonitoringCycleTest, DisconnectTimerRunsOnlyWhileASessionIsMarked) {
     StartOnEth0();
     cycle.Timer1Tick();
-    EXPECT_FALSE(host.disconnectTimerOn);
+    EXPECT_FALSE(switches.disconnectTimerOn);
     program.denyList[0] = "OK";
     program.denyList[2] = "BAD";
     net.steadySessions = ::fakes::FakeNetApi::Sessions({{"BAD", "eve", "W"}});
     cycle.Timer1Tick();
-    EXPECT_TRUE(host.disconnectTimerOn);
+    EXPECT_TRUE(switches.disconnectTimerOn);
     cycle.StopMonitoring();
-    EXPECT_FALSE(host.disconnectTimerOn);
+    EXPECT_FALSE(switches.disconnectTimerOn);
     cycle.StartCommand();  // the marked row stays, so the disconnection goes on
-    EXPECT_TRUE(host.disconnectTimerOn);
+    EXPECT_TRUE(switches.disconnectTimerOn);
 }
 
 TEST_F(MonitoringCycleTest, IntervalFollowsTheTimeSettingAndNonNumbersLeaveTheTimerIdle) {
     program.settings.time = "2.5";
     cycle.StartMonitoring();
-    EXPECT_EQ(host.timer1Interval, 2500u);
+    EXPECT_EQ(switches.timer1Interval, 2500u);
     program.settings.time = "abc";
     cycle.StartMonitoring();
-    EXPECT_EQ(host.timer1Interval, 0u);
+    EXPECT_EQ(switches.timer1Interval, 0u);
 }
 
 TEST_F(MonitoringCycleTest, FirstTickTakesTheSampleAndWritesNothing) {
     StartOnEth0();
     const auto rows = Rows();
     cycle.Timer1Tick();
-    EXPECT_EQ(host.labels[0], "0");
-    EXPECT_EQ(host.labels[1], "0");
-    EXPECT_TRUE(host.graphs[0].empty());
-    EXPECT_TRUE(host.graphs[1].empty());
+    EXPECT_EQ(traffic.labels[0], "0");
+    EXPECT_EQ(traffic.labels[1], "0");
+    EXPECT_TRUE(traffic.graphs[0].empty());
+    EXPECT_TRUE(traffic.graphs[1].empty());
     EXPECT_EQ(Rows(), rows);
 }
 
@@ -117,17 +104,17 @@ TEST_F(MonitoringCycleTest, TrafficRowShowsReceivedAfterSendAndSentAfterReceive)
     cycle.Timer1Tick();
     SetCounters(1000 + 1234567, 5000 + 250000);
     cycle.Timer1Tick();
-    EXPECT_EQ(host.labels[0], "1234567");
-    EXPECT_EQ(host.labels[1], "250000");
-    EXPECT_EQ(host.LastRow(), "[2005/06/22 09:05:03]  送信 : 1,235 KB  受信 : 250 KB");
+    EXPECT_EQ(traffic.labels[0], "1234567");
+    EXPECT_EQ(traffic.labels[1], "250000");
+    EXPECT_EQ(monitor.LastRow(), "[2005/06/22 09:05:03]  送信 : 1,235 KB  受信 : 250 KB");
     // The graphs are clipped at 100000; the labels keep the true delta.
-    EXPECT_EQ(host.graphs[0], std::vector<float>{100000});
-    EXPECT_EQ(host.graphs[1], std::vector<float>{100000});
+    EXPECT_EQ(traffic.graphs[0], std::vector<float>{100000});
+    EXPECT_EQ(traffic.graphs[1], std::vector<float>{100000});
 
     SetCounters(1000 + 1234567 + 99999, 5000 + 250000);
     cycle.Timer1Tick();
-    EXPECT_EQ(host.graphs[0].back(), 99999);
-    EXPECT_EQ(host.graphs[1].back(), 0);
+    EXPECT_EQ(traffic.graphs[0].back(), 99999);
+    EXPECT_EQ(traffic.graphs[1].back(), 0);
 }
 
 TEST_F(MonitoringCycleTest, NoRowWhenNothingWasReceivedOrPacketIsOff) {
@@ -150,8 +137,8 @@ TEST_F(MonitoringCycleTest, CountersAreSignedThirtyTwoBitAndAWrapGivesANegativeD
     SetCounters(0x80000010u, 0);  // passes 2^31
     cycle.Timer1Tick();
     EXPECT_EQ(program.traffic.receivedNow, "-2147483632");
-    EXPECT_EQ(host.labels[0], "-4294967264");
-    EXPECT_EQ(host.graphs[0].back(), -4294967264.0f);
+    EXPECT_EQ(traffic.labels[0], "-4294967264");
+    EXPECT_EQ(traffic.graphs[0].back(), -4294967264.0f);
 }
 
 TEST_F(MonitoringCycleTest, SentDeltaSpansAStopWhileTheReceivedSideStartsAfresh) {
@@ -161,9 +148,9 @@ TEST_F(MonitoringCycleTest, SentDeltaSpansAStopWhileTheReceivedSideStartsAfresh)
     SetCounters(1000 + 7000, 5000 + 9000);
     cycle.StartCommand();
     cycle.Timer1Tick();
-    EXPECT_EQ(host.labels[0], "0");     // fresh received sample
-    EXPECT_EQ(host.labels[1], "9000");  // measured against the value from before the stop
-    EXPECT_EQ(host.graphs[1], std::vector<float>{9000});
+    EXPECT_EQ(traffic.labels[0], "0");     // fresh received sample
+    EXPECT_EQ(traffic.labels[1], "9000");  // measured against the value from before the stop
+    EXPECT_EQ(traffic.graphs[1], std::vector<float>{9000});
 }
 
 TEST_F(MonitoringCycleTest, OnlyTheFirstCharacterOfTheLabelSelectsTheRow) {
@@ -171,12 +158,12 @@ TEST_F(MonitoringCycleTest, OnlyTheFirstCharacterOfTheLabelSelectsTheRow) {
     ipHelper.interfaces.resize(13);
     for (std::uint32_t i = 2; i < 13; ++i) ipHelper.interfaces[i] = {i + 1, "if"};
     cycle.LoadInterfaces();
-    host.selectedInterface = "12: if";  // selects row 1, eth0
+    traffic.interfaceText = "12: if";  // selects row 1, eth0
     cycle.StartCommand();
     cycle.Timer1Tick();
     SetCounters(1000 + 3000, 5000);
     cycle.Timer1Tick();
-    EXPECT_EQ(host.labels[0], "3000");
+    EXPECT_EQ(traffic.labels[0], "3000");
 }
 
 TEST_F(MonitoringCycleTest, VanishedInterfaceReadsZeroAndTheNextDeltaIsNegative) {
@@ -184,31 +171,31 @@ TEST_F(MonitoringCycleTest, VanishedInterfaceReadsZeroAndTheNextDeltaIsNegative)
     cycle.Timer1Tick();
     ipHelper.interfaces[1].index = 99;  // GetIfEntry of the kept index now fails
     cycle.Timer1Tick();
-    EXPECT_EQ(host.labels[0], "-1000");
-    EXPECT_EQ(host.labels[1], "-5000");
+    EXPECT_EQ(traffic.labels[0], "-1000");
+    EXPECT_EQ(traffic.labels[1], "-5000");
 }
 
 TEST_F(MonitoringCycleTest, ChangedSessionCountRaisesOneAlertPerSessionAndSwitchesTheTray) {
     StartOnEth0();
     net.steadySessions = fakes::FakeNetApi::Sessions({{"PC1", "taro", "W"}, {"PC2", "hana", "W"}});
     cycle.Timer1Tick();
-    EXPECT_EQ(host.alerts, (std::vector<std::string>{"[マシン名]\r\nPC1\r\n[ユーザ名]\r\ntaro",
+    EXPECT_EQ(alerts.raised, (std::vector<std::string>{"[マシン名]\r\nPC1\r\n[ユーザ名]\r\ntaro",
                                                      "[マシン名]\r\nPC2\r\n[ユーザ名]\r\nhana"}));
     EXPECT_EQ(tray.shown.back(), "C:\\L\\veskarneton.ico|[PC1][PC2]");
     EXPECT_EQ(net.servers.back(), "MYPC");  // the computer-name box names the server
 
     cycle.Timer1Tick();  // same count: no new alert
-    EXPECT_EQ(host.alerts.size(), 2u);
+    EXPECT_EQ(alerts.raised.size(), 2u);
 
     net.steadySessions = {};
     cycle.Timer1Tick();  // the count changed to 0: nothing to announce
-    EXPECT_EQ(host.alerts.size(), 2u);
+    EXPECT_EQ(alerts.raised.size(), 2u);
     EXPECT_EQ(tray.shown.back(), "C:\\L\\veskarnetoff.ico|Veskar_Lookout  －監視中－");
 
     program.settings.window = 0;
     net.steadySessions = fakes::FakeNetApi::Sessions({{"PC3", "x", "W"}});
     cycle.Timer1Tick();
-    EXPECT_EQ(host.alerts.size(), 2u);
+    EXPECT_EQ(alerts.raised.size(), 2u);
 }
 
 }  // namespace

@@ -1,61 +1,80 @@
 #pragma once
-// Fakes for the monitoring tests: a host that records what the cycle did to the window,
+// Fakes for the monitoring tests: the parts of the main window the cycle works on,
 // scripted session and open-file answers, the tray icon and the beeper.
 #include <deque>
+#include <functional>
 #include <map>
 
 #include "app/client_lookup.h"
-#include "app/monitor_host.h"
+#include "app/monitor_window.h"
+#include "app/monitoring_cycle.h"
+#include "app/session_guard.h"
+#include "fakes/fake_clock.h"
+#include "fakes/fake_ip_helper.h"
+#include "fakes/fake_message_pump.h"
 #include "platform/beeper.h"
 #include "platform/netapi.h"
 #include "platform/shell.h"
 
 namespace fakes {
 
-class FakeMonitorHost : public app::IMonitorHost {
+class FakeMainMonitor : public app::IMainMonitor {
 public:
-    base::TableModel& MainMonitor() override { return mainMonitor; }
+    base::TableModel& Rows() override { return rows; }
+    void Save() override {
+        if (onSave) onSave();
+        savedRowCounts.push_back(rows.RowCount());
+    }
+    std::string Row(std::size_t i) const { return rows.Cell(i, 0); }
+    std::string LastRow() const { return Row(rows.RowCount() - 1); }
+
+    base::TableModel rows;
+    std::vector<std::size_t> savedRowCounts;
+    std::function<void()> onSave;  // runs as a save would pump messages
+};
+
+class FakeSessionWindow : public app::ISessionWindow {
+public:
     base::TableModel& SessionList() override { return sessionList; }
     base::TableModel& DisconnectList() override { return disconnectList; }
     const std::string& ComputerNameText() override { return computerName; }
-    const std::string& SelectedInterfaceText() override { return selectedInterface; }
-    void SetSelectedInterfaceText(const std::string& text) override {
-        selectedInterface = text;
-        ++interfaceLabelWrites;
-    }
-    const std::string& TrafficLabel(int index) override { return labels[index]; }
-    void SetTrafficLabel(int index, const std::string& text) override { labels[index] = text; }
+    void SetServerPanel(const std::string& text) override { serverPanel = text; }
+
+    base::TableModel sessionList, disconnectList;
+    std::string computerName = "MYPC";
+    std::string serverPanel;
+};
+
+class FakeTrafficDisplay : public app::ITrafficDisplay {
+public:
+    const std::string& InterfaceText() override { return interfaceText; }
+    void SetInterfaceText(const std::string& text) override { interfaceText = text; }
+    const std::string& Label(int index) override { return labels[index]; }
+    void SetLabel(int index, const std::string& text) override { labels[index] = text; }
     void FeedGraph(int index, float value) override { graphs[index].push_back(value); }
-    void SetStatusPanel(int panel, const std::string& text) override { panels[panel] = text; }
+
+    std::string interfaceText;
+    std::string labels[2];
+    std::vector<float> graphs[2];
+};
+
+class FakeSwitches : public app::IMonitoringSwitches {
+public:
     void SetMonitoringTimers(bool enabled, unsigned interval) override {
         timersOn = enabled;
         timer1Interval = interval;
     }
     void SetDisconnectTimer(bool enabled) override { disconnectTimerOn = enabled; }
-    void SetRunButtons(bool running) override { runButtonsShowRunning = running; }
-    void RaiseAlert(const std::string& text) override { alerts.push_back(text); }
-    void SaveMainMonitor() override {
-        savedRowCounts.push_back(mainMonitor.RowCount());
-    }
-    void DoEvents() override { ++pumps; }
+    void SetRunButtons(bool isRunning) override { running = isRunning; }
 
-    std::string Row(std::size_t i) const { return mainMonitor.Cell(i, 0); }
-    std::string LastRow() const { return Row(mainMonitor.RowCount() - 1); }
-
-    base::TableModel mainMonitor, sessionList, disconnectList;
-    std::string computerName = "MYPC";
-    std::string selectedInterface;
-    int interfaceLabelWrites = 0;
-    std::string labels[2];
-    std::vector<float> graphs[2];
-    std::map<int, std::string> panels;
-    bool timersOn = false;
+    bool timersOn = false, disconnectTimerOn = false, running = false;
     unsigned timer1Interval = 0;
-    bool disconnectTimerOn = false;
-    bool runButtonsShowRunning = false;
-    std::vector<std::string> alerts;
-    std::vector<std::size_t> savedRowCounts;
-    int pumps = 0;
+};
+
+class FakeAlerts : public app::IAlerts {
+public:
+    void Raise(const std::string& text) override { raised.push_back(text); }
+    std::vector<std::string> raised;
 };
 
 class FakeNetApi : public platform::INetApi {
@@ -114,6 +133,25 @@ public:
     void Remove() override { ++removals; }
     std::vector<std::string> shown;
     int removals = 0;
+};
+
+// The monitoring cycle and its session guard over fakes of everything they use.
+struct MonitoringRig {
+    app::Program program;
+    FakeMainMonitor monitor;
+    FakeSessionWindow sessions;
+    FakeTrafficDisplay traffic;
+    FakeSwitches switches;
+    FakeAlerts alerts;
+    FakeNetApi net;
+    FakeLookup lookup;
+    FakeBeeper beeper;
+    FakeMessagePump pump;
+    FakeIpHelper ipHelper;
+    FakeTrayIcon tray;
+    FakeClock clock;
+    app::SessionGuard guard{program, {monitor, sessions, traffic}, {net, lookup, beeper, pump, clock}};
+    app::MonitoringCycle cycle{program, {monitor, sessions, traffic, switches, alerts}, clock, ipHelper, tray, guard};
 };
 
 }  // namespace fakes

@@ -68,6 +68,22 @@ TEST_F(OptionsModelTest, OkWritesBothListsAndTheSettingsAndUpdatesMemory) {
               "backcolor=16777215\r\nfontcolor=0\r\nwindow=0\r\nnc=0: lo\r\nfront=0\r\napp=0\r\n");
 }
 
+TEST_F(OptionsModelTest, AListThatCannotBeWrittenRaisesAnErrorBeforeTheSettingsAreWritten) {
+    model.Load();
+    const std::string settings = files.Get("C:\\L\\setting.ini");
+    model.interval = "7";
+    for (const char* list : {"C:\\L\\pcset.ini", "C:\\L\\pcset2.ini"}) {
+        files.unwritable = {list};
+        try {
+            model.Ok();
+            ADD_FAILURE() << list << " failed silently";
+        } catch (const base::RuntimeError& error) {
+            EXPECT_EQ(error.Number(), base::RuntimeErrorNumber::PathFileAccess);
+        }
+        EXPECT_EQ(files.Get("C:\\L\\setting.ini"), settings);
+    }
+}
+
 TEST_F(OptionsModelTest, ColourDialogChangesTheSwatchOnlyWhenConfirmed) {
     model.Load();
     model.ChooseSwatchColour(Swatch::Text);

@@ -5,7 +5,6 @@
 #include "app/settings.h"
 #include "base/product.h"
 #include "base/runtime_error.h"
-#include "fakes/fake_clock.h"
 #include "monitoring_fakes.h"
 
 namespace app {
@@ -17,29 +16,21 @@ platform::SessionInfo Session(std::string client, std::string user, std::string 
     return {std::move(client), std::move(user), std::move(type)};
 }
 
-class SessionGuardTest : public ::testing::Test {
+class SessionGuardTest : public ::testing::Test, protected ::fakes::MonitoringRig {
 protected:
     SessionGuardTest() {
         program.settings = DefaultSettings();
         program.allowList[0] = "NG";
         program.denyList[0] = "NG";
-        host.labels[0] = "1234567";
-        host.labels[1] = "500";
+        traffic.labels[0] = "1234567";
+        traffic.labels[1] = "500";
     }
 
     std::vector<std::string> Rows() const {
         std::vector<std::string> rows;
-        for (std::size_t i = 0; i < host.mainMonitor.RowCount(); ++i) rows.push_back(host.Row(i));
+        for (std::size_t i = 0; i < monitor.rows.RowCount(); ++i) rows.push_back(monitor.Row(i));
         return rows;
     }
-
-    Program program;
-    ::fakes::FakeMonitorHost host;
-    FakeNetApi net;
-    ::fakes::FakeLookup lookup;
-    ::fakes::FakeBeeper beeper;
-    ::fakes::FakeClock clock;
-    SessionGuard guard{program, host, net, lookup, beeper, clock};
 };
 
 TEST_F(SessionGuardTest, EachSessionWithAUserGetsARowAndNullSessionsAreIgnored) {
@@ -54,27 +45,27 @@ TEST_F(SessionGuardTest, EachSessionWithAUserGetsARowAndNullSessionsAreIgnored) 
                           "Service Pack 1 2600 送信 : 1,235 KB 受信 : 1 KB",
                           // Names that do not resolve show the raw client name.
                           "[2005/06/22 09:05:03]  PC : PC3(PC3/PC3) USER : hana OS :  送信 : 1,235 KB 受信 : 1 KB"}));
-    EXPECT_EQ(host.sessionList.RowCount(), 2u);
-    EXPECT_EQ(host.sessionList.Cell(1, 0), "PC3");
-    EXPECT_EQ(host.sessionList.Cell(1, 1), "hana");
+    EXPECT_EQ(sessions.sessionList.RowCount(), 2u);
+    EXPECT_EQ(sessions.sessionList.Cell(1, 0), "PC3");
+    EXPECT_EQ(sessions.sessionList.Cell(1, 1), "hana");
     EXPECT_EQ(program.tray.tip, "[PC1][PC3]");
     EXPECT_EQ(program.tray.currentIcon, "veskarneton.ico");
-    EXPECT_EQ(host.panels[2], "サーバ : SERVER");
-    EXPECT_EQ(host.disconnectList.RowCount(), 0u);  // both lists off: never disconnected
+    EXPECT_EQ(sessions.serverPanel, "サーバ : SERVER");
+    EXPECT_EQ(sessions.disconnectList.RowCount(), 0u);  // both lists off: never disconnected
 
     // Every tick re-enumerates: an open session is logged and beeped again; a renamed
     // server shows on panel 2.
     guard.Run("RENAMED");
     EXPECT_EQ(beeper.beeps, 4);
-    EXPECT_EQ(host.sessionList.RowCount(), 2u);
-    EXPECT_EQ(host.panels[2], "サーバ : RENAMED");
+    EXPECT_EQ(sessions.sessionList.RowCount(), 2u);
+    EXPECT_EQ(sessions.serverPanel, "サーバ : RENAMED");
 }
 
 TEST_F(SessionGuardTest, WinsockThatDoesNotStartLeavesTheRawNames) {
     lookup.winsockStarts = false;
     net.steadySessions = FakeNetApi::Sessions({Session("10.0.0.2", "u")});
     guard.Run("S");
-    EXPECT_NE(host.Row(0).find("PC : 10.0.0.2(10.0.0.2/10.0.0.2) USER : u"), std::string::npos);
+    EXPECT_NE(monitor.Row(0).find("PC : 10.0.0.2(10.0.0.2/10.0.0.2) USER : u"), std::string::npos);
 }
 
 TEST_F(SessionGuardTest, MoreDataIsFollowedAndFailedCallsSkipTheirRecords) {
@@ -86,7 +77,7 @@ TEST_F(SessionGuardTest, MoreDataIsFollowedAndFailedCallsSkipTheirRecords) {
     EXPECT_EQ(guard.Run("S"), 3);
     EXPECT_EQ(net.servers.size(), 3u);
     EXPECT_EQ(program.tray.tip, "[A][B][C]");
-    EXPECT_GE(host.pumps, 3);
+    EXPECT_GE(pump.calls, 3);
 }
 
 TEST_F(SessionGuardTest, NoSessionGivesTheOffIconAndTheMonitoringTip) {
@@ -110,9 +101,9 @@ TEST_F(SessionGuardTest, DenyListComparesSlotsTwoToTwentyExactly) {
     ASSERT_EQ(rows.size(), 6u);
     EXPECT_EQ(rows[3], "[2005/06/22 09:05:03]  アクセス拒否違反の為､BADに対して切断処理を実行しました｡");
     EXPECT_EQ(rows[5], "[2005/06/22 09:05:03]  アクセス拒否違反の為､LASTに対して切断処理を実行しました｡");
-    ASSERT_EQ(host.disconnectList.RowCount(), 2u);
-    EXPECT_EQ(host.disconnectList.Cell(0, 1), "BAD");
-    EXPECT_EQ(host.disconnectList.Cell(0, 0), "eve");
+    ASSERT_EQ(sessions.disconnectList.RowCount(), 2u);
+    EXPECT_EQ(sessions.disconnectList.Cell(0, 1), "BAD");
+    EXPECT_EQ(sessions.disconnectList.Cell(0, 0), "eve");
 }
 
 TEST_F(SessionGuardTest, AllowListReportsEveryClientItDoesNotHold) {
@@ -120,15 +111,15 @@ TEST_F(SessionGuardTest, AllowListReportsEveryClientItDoesNotHold) {
     net.steadySessions = FakeNetApi::Sessions({Session("PC1", "u"), Session("PC2", "u")});
     guard.Run("S");
     EXPECT_EQ(Rows()[1], "[2005/06/22 09:05:03]  アクセス許可違反の為､PC1に対して切断処理を実行しました｡");
-    EXPECT_EQ(host.disconnectList.RowCount(), 2u);
+    EXPECT_EQ(sessions.disconnectList.RowCount(), 2u);
 
     program.allowList[2] = "PC1";
     program.allowList[1] = "PC2";  // slot 1 does not allow
-    host.mainMonitor.Clear();
-    host.disconnectList.Clear();
+    monitor.rows.Clear();
+    sessions.disconnectList.Clear();
     guard.Run("S");
-    ASSERT_EQ(host.disconnectList.RowCount(), 1u);
-    EXPECT_EQ(host.disconnectList.Cell(0, 1), "PC2");
+    ASSERT_EQ(sessions.disconnectList.RowCount(), 1u);
+    EXPECT_EQ(sessions.disconnectList.Cell(0, 1), "PC2");
 }
 
 TEST_F(SessionGuardTest, AClientOnBothListsIsDeniedAndPassesTheAllowCheck) {
@@ -140,7 +131,7 @@ TEST_F(SessionGuardTest, AClientOnBothListsIsDeniedAndPassesTheAllowCheck) {
     guard.Run("S");
     ASSERT_EQ(Rows().size(), 2u);
     EXPECT_NE(Rows()[1].find("アクセス拒否違反"), std::string::npos);
-    EXPECT_EQ(host.disconnectList.RowCount(), 1u);
+    EXPECT_EQ(sessions.disconnectList.RowCount(), 1u);
 }
 
 TEST_F(SessionGuardTest, MoreThanOneHundredSessionsRaiseTheSubscriptError) {
@@ -154,10 +145,25 @@ TEST_F(SessionGuardTest, MoreThanOneHundredSessionsRaiseTheSubscriptError) {
     EXPECT_EQ(guard.Run("S"), 100);  // every tick starts again at the first slot
 }
 
+TEST_F(SessionGuardTest, AViolatorConnectedAllDayKeepsOneRowAndTimer2sWorkStaysFlat) {
+    program.denyList[0] = "OK";
+    program.denyList[2] = "BAD";
+    net.steadySessions = FakeNetApi::Sessions({Session("BAD", "eve"), Session("GOOD", "u")});
+    for (int second = 0; second < 24 * 60 * 60; ++second) {
+        clock.now = {2005, 6, 22, second / 3600, second / 60 % 60, second % 60};
+        guard.Run("S");
+        monitor.rows.Clear();
+        const std::size_t before = net.deleted.size();
+        guard.DisconnectMarked();
+        ASSERT_EQ(net.deleted.size() - before, 1u) << "at second " << second;
+    }
+    EXPECT_EQ(sessions.disconnectList.RowCount(), 1u);
+}
+
 TEST_F(SessionGuardTest, Timer2DisconnectsEveryMarkedClientAgainAndAgain) {
-    host.disconnectList.AddRow({"eve", "BAD"});
-    host.disconnectList.AddRow({"x", ""});  // no client name: skipped
-    host.disconnectList.AddRow({"bob", "OTHER"});
+    sessions.disconnectList.AddRow({"eve", "BAD"});
+    sessions.disconnectList.AddRow({"x", ""});  // no client name: skipped
+    sessions.disconnectList.AddRow({"bob", "OTHER"});
     guard.DisconnectMarked();
     guard.DisconnectMarked();
     EXPECT_EQ(net.deleted, (std::vector<std::string>{"BAD/eve", "OTHER/bob", "BAD/eve", "OTHER/bob"}));
@@ -177,15 +183,15 @@ TEST_F(SessionGuardTest, OpenFilesAreLoggedAcrossBatchesAndAFailureLogsNothing) 
 }
 
 TEST_F(SessionGuardTest, MainMonitorPastTenThousandRowsIsSavedAndStartedAfresh) {
-    for (int i = 0; i < 9999; ++i) host.mainMonitor.AddRow({"row"});
+    for (int i = 0; i < 9999; ++i) monitor.rows.AddRow({"row"});
     net.fileAnswers = {{platform::kNerrSuccess, {{"C:\\f", "u"}}}};
     guard.LogOpenFiles();  // exactly 10000 rows: kept
-    EXPECT_TRUE(host.savedRowCounts.empty());
-    EXPECT_EQ(host.mainMonitor.RowCount(), 10000u);
+    EXPECT_TRUE(monitor.savedRowCounts.empty());
+    EXPECT_EQ(monitor.rows.RowCount(), 10000u);
 
     net.fileAnswers = {{platform::kNerrSuccess, {{"C:\\f", "u"}}}};
     guard.LogOpenFiles();
-    EXPECT_EQ(host.savedRowCounts, std::vector<std::size_t>{10001});
+    EXPECT_EQ(monitor.savedRowCounts, std::vector<std::size_t>{10001});
     EXPECT_EQ(Rows(), (std::vector<std::string>{base::kBanner, "[2005/06/22 09:05:03]  ログを自動保存しました。"}));
 }
 

@@ -17,6 +17,8 @@ public:
     std::string ExecutableFolder() override { return folder; }
     std::string ExecutableName() override { return "veskar_lookout"; }
     std::string VersionComments() override { return ""; }
+    void LockStart() override { log->push_back("lock"); }
+    void UnlockStart() override { log->push_back("unlock"); }
     bool IsAnotherCopyRunning() override { return anotherCopy; }
     bool ActivateWindowTitled(const std::string& title) override {
         activated.push_back(title);
@@ -31,6 +33,7 @@ public:
     bool anotherCopy = false;
     bool windowFound = false;
     std::vector<std::string> activated, started;
+    std::vector<std::string>* log = nullptr;
 };
 
 class FakeSystem : public platform::ISystemInfo {
@@ -56,6 +59,7 @@ public:
 
 class StartupTest : public ::testing::Test {
 protected:
+    StartupTest() { instance.log = &host.calls; }
     StartupOutcome Run() { return RunStartup(program, services, host); }
 
     FakeInstance instance;
@@ -73,7 +77,7 @@ TEST_F(StartupTest, FirstStartWritesOnlyTheManifestAndRestarts) {
     EXPECT_EQ(files.files.size(), 1u);
     EXPECT_EQ(files.Get("C:\\Tools\\veskar_lookout.exe.MANIFEST"), ManifestText("veskar_lookout.exe", ""));
     EXPECT_EQ(instance.started, std::vector<std::string>{"C:\\Tools\\veskar_lookout.exe"});
-    EXPECT_TRUE(host.calls.empty());
+    EXPECT_EQ(host.calls, (std::vector<std::string>{"lock", "unlock"}));
 }
 
 TEST_F(StartupTest, RestartedCopyCreatesTheDataFilesAndFillsTheWindowInOrder) {
@@ -85,8 +89,9 @@ TEST_F(StartupTest, RestartedCopyCreatesTheDataFilesAndFillsTheWindowInOrder) {
     EXPECT_TRUE(files.Has("C:\\Tools\\setting.ini"));
     EXPECT_EQ(files.Get("C:\\Tools\\pcset.ini"), "\"NG\"\r\n");
     EXPECT_EQ(files.Get("C:\\Tools\\pcset2.ini"), "\"NG\"\r\n");
-    // Defaults: window hidden (open 0), monitoring on (start 1).
-    EXPECT_EQ(host.calls, (std::vector<std::string>{"load " + std::string(base::kBanner),
+    // Defaults: window hidden (open 0), monitoring on (start 1). Later copies wait until the
+    // window with the banner exists.
+    EXPECT_EQ(host.calls, (std::vector<std::string>{"lock", "load " + std::string(base::kBanner), "unlock",
                                                     "row " + std::string(base::kBanner), "computer MYPC", "start",
                                                     "panel3 ユーザ : taro"}));
     EXPECT_EQ(program.tray.currentIcon, "veskarnetoff.ico");
@@ -98,7 +103,7 @@ TEST_F(StartupTest, SettingsDecideShowingAndMonitoring) {
     files.Put("C:\\Tools\\setting.ini", "[main]\r\nopen=1\r\nstart=0\r\n");
     system.computer.reset();  // the computer-name box stays empty
     Run();
-    EXPECT_EQ(host.calls, (std::vector<std::string>{"load " + std::string(base::kBanner),
+    EXPECT_EQ(host.calls, (std::vector<std::string>{"lock", "load " + std::string(base::kBanner), "unlock",
                                                     "row " + std::string(base::kBanner), "show",
                                                     "panel3 ユーザ : taro"}));
 }
@@ -131,7 +136,7 @@ TEST_F(StartupTest, TwentyTwoRecordPcListStopsStartupWithTheSubscriptError) {
     for (int i = 0; i < 22; ++i) bytes += "\"x\"\r\n";
     files.Put("C:\\Tools\\pcset2.ini", bytes);
     EXPECT_THROW(Run(), base::RuntimeError);
-    EXPECT_TRUE(host.calls.empty());
+    EXPECT_EQ(host.calls, (std::vector<std::string>{"lock", "unlock"}));
 }
 
 }  // namespace
