@@ -13,6 +13,8 @@ public:
     virtual ~IMainMonitor() = default;
     virtual base::TableModel& Rows() = 0;
     virtual void Save() = 0;
+    // The save when the Windows session ends: it also finishes a save under way.
+    virtual void SaveBeforeSessionEnd() = 0;
 };
 
 // The traffic display: the selected-interface label, the two traffic labels (0 received, 1 sent)

@@ -2,7 +2,6 @@
 
 #include "base/local_time.h"
 #include "base/product.h"
-#include "base/reentry_guard.h"
 
 namespace app {
 namespace {
@@ -31,11 +30,9 @@ bool ProgramCommands::Exit(const std::function<void()>& hideMainWindow) {
 }
 
 void ProgramCommands::WindowsSessionEnding() {
-    // Asked again while its own save pumps messages, the session has ended once: one row, one file.
-    const base::ReentryGuard ending(m_sessionEnding);
-    if (m_program.settings.logflag != 1 || !ending.First()) return;
+    if (m_program.settings.logflag != 1) return;
     m_mainMonitor.Rows().AddRow({base::MonitorStamp(m_clock.Now()) + "Windowsが終了されました。"});
-    m_mainMonitor.Save();
+    m_mainMonitor.SaveBeforeSessionEnd();
 }
 
 void ProgramCommands::ClearMainMonitor() {

@@ -22,7 +22,7 @@ public:
     // program is to end.
     bool Exit(const std::function<void()>& hideMainWindow);
     // Windows ends the session: with "logflag" 1 the main monitor gets its last row and is saved.
-    // During another save of the main monitor, that save writes the row.
+    // A save of the main monitor under way is finished with that row instead of a second file.
     void WindowsSessionEnding();
     // Clears the main monitor after confirmation; it starts again with the banner row.
     void ClearMainMonitor();
@@ -34,7 +34,6 @@ private:
     platform::IDialogs& m_dialogs;
     platform::ITrayIcon& m_trayIcon;
     platform::IClock& m_clock;
-    bool m_sessionEnding = false;
 };
 
 }  // namespace app

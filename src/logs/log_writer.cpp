@@ -1,6 +1,6 @@
 #include "logs/log_writer.h"
 
-#include <functional>
+#include <utility>
 
 #include "base/local_time.h"
 #include "base/runtime_error.h"
@@ -10,31 +10,19 @@
 namespace logs {
 namespace {
 
-// Lines are gathered in blocks of about this size: one write per block instead of one per line.
-constexpr std::size_t kBlockBytes = 64 * 1024;
+// Marks a main-monitor save as the one under way for as long as it runs; one started inside it
+// is marked in its place until it ends.
+class RunningSave {
+public:
+    RunningSave(RowWriter*& slot, RowWriter& writer) : m_slot(slot), m_outer(std::exchange(slot, &writer)) {}
+    ~RunningSave() { m_slot = m_outer; }
+    RunningSave(const RunningSave&) = delete;
+    RunningSave& operator=(const RunningSave&) = delete;
 
-// Builds one line in code page 932 from the row's UTF-8 texts.
-using LineBuilder = std::function<void(const base::TableModel::Row& row, AnsiEncoder& encoder, std::string& line)>;
-
-// Writes every row of a list as one line, pumping messages after each. The row is encoded
-// into the block before the pump, and the row count is read again after it, so a list that is
-// cleared or rebuilt meanwhile ends or extends the save instead of breaking it.
-void WriteRows(platform::IOutputFile* file, const base::TableModel& rows, platform::IMessagePump& pump,
-               AnsiEncoder& encoder, const LineBuilder& build) {
-    std::string block;
-    block.reserve(kBlockBytes + 4096);
-    const auto flush = [&] {
-        if (file && !block.empty()) file->Write(block);
-        block.clear();
-    };
-    for (std::size_t i = 0; i < rows.RowCount(); ++i) {
-        build(rows.RowAt(i), encoder, block);
-        block += "\r\n";
-        if (block.size() >= kBlockBytes) flush();
-        pump.DoEvents();
-    }
-    flush();
-}
+private:
+    RowWriter*& m_slot;
+    RowWriter* m_outer;
+};
 
 }  // namespace
 
@@ -50,15 +38,15 @@ std::string LogWriter::EnsureLogsFolder() {
 void LogWriter::WriteList(const std::string& path, platform::OpenMode mode, ListRows list,
                           const base::LocalTime& now) {
     const std::string stamp = base::LogStamp(now);
-    const auto file = m_services.files.Open(path, mode);
-    WriteRows(file.get(), list.rows, m_services.pump, m_encoder,
-              [&](const base::TableModel::Row& row, AnsiEncoder& encoder, std::string& line) {
-                  encoder.Append(stamp, line);
-                  for (std::size_t column = 0; column < list.columns; ++column) {
-                      line += '\t';
-                      if (column < row.cells.size()) encoder.Append(row.cells[column], line);
-                  }
-              });
+    RowWriter writer(m_services.files.Open(path, mode), list.rows, m_encoder,
+                     [&](const base::TableModel::Row& row, AnsiEncoder& encoder, std::string& line) {
+                         encoder.Append(stamp, line);
+                         for (std::size_t column = 0; column < list.columns; ++column) {
+                             line += '\t';
+                             if (column < row.cells.size()) encoder.Append(row.cells[column], line);
+                         }
+                     });
+    writer.Run(m_services.pump);
 }
 
 void LogWriter::WriteRolledOver(const std::string& base, ListRows list, const base::LocalTime& now) {
@@ -90,16 +78,24 @@ void LogWriter::AutomaticLog(LogKind kind, ListRows list, bool switchedOn) {
 }
 
 void LogWriter::WriteMainMonitor(const std::string& path, const base::TableModel& rows) {
-    const auto file = m_services.files.Open(path, platform::OpenMode::Output);
-    WriteRows(file.get(), rows, m_services.pump, m_encoder,
-              [](const base::TableModel::Row& row, AnsiEncoder& encoder, std::string& line) {
-                  if (!row.cells.empty()) encoder.Append(row.cells.front(), line);
-              });
+    RowWriter writer(m_services.files.Open(path, platform::OpenMode::Output), rows, m_encoder,
+                     [](const base::TableModel::Row& row, AnsiEncoder& encoder, std::string& line) {
+                         if (!row.cells.empty()) encoder.Append(row.cells.front(), line);
+                     });
+    const RunningSave running(m_runningMainMonitorSave, writer);
+    writer.Run(m_services.pump);
 }
 
-void LogWriter::SaveMainMonitor(const base::TableModel& rows) {
+bool LogWriter::SaveMainMonitor(const base::TableModel& rows) {
+    if (m_runningMainMonitorSave) return false;
     const std::string folder = EnsureLogsFolder();
     WriteMainMonitor(NextMainMonitorPath(m_services.files, folder, m_services.clock.Now()), rows);
+    return true;
+}
+
+void LogWriter::SaveMainMonitorBeforeSessionEnd(const base::TableModel& rows) {
+    if (m_runningMainMonitorSave) return m_runningMainMonitorSave->Finish();
+    SaveMainMonitor(rows);
 }
 
 void LogWriter::SaveMainMonitorAs(const base::TableModel& rows, platform::IDialogs& dialogs) {

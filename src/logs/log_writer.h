@@ -2,7 +2,8 @@
 // Every log file the program writes: the append-save, temporary and automatic logs of a list,
 // and the main-monitor files. Each save opens, writes and closes its file; after every line it
 // pumps window messages, so the list it writes may change under it (a timer refresh or a
-// click): the rows are read one at a time and the save ends at the list's end as it then stands.
+// click): it writes as many rows as the list held at its start, read one at a time, and ends
+// early at the end of a list that has become shorter.
 //
 // Failures are passed over in silence, one step at a time: a logs folder that cannot be made,
 // a file that cannot be opened or a line that cannot be written does not stop the rest.
@@ -12,6 +13,7 @@
 #include "base/table_model.h"
 #include "logs/ansi_encoder.h"
 #include "logs/log_kind.h"
+#include "logs/row_writer.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
@@ -48,8 +50,13 @@ public:
     // returns at once without touching the disk.
     void AutomaticLog(LogKind kind, ListRows list, bool switchedOn);
 
-    // The main monitor (one text per row) to the next free YYYYMMDD-N.txt.
-    void SaveMainMonitor(const base::TableModel& rows);
+    // The main monitor (one text per row) to the next free YYYYMMDD-N.txt. Asked for while a
+    // main-monitor save pumps messages, it writes nothing and answers false.
+    bool SaveMainMonitor(const base::TableModel& rows);
+    // The save when the Windows session ends, after which the process may be ended at any
+    // moment: a main-monitor save under way is finished at once, with every row the list holds
+    // now, into its own file; otherwise a save as above.
+    void SaveMainMonitorBeforeSessionEnd(const base::TableModel& rows);
     // Asks for the name first, proposing the next free YYYYMMDD-N.txt; a name whose last four
     // characters are not exactly ".txt" gets ".txt" appended. Cancel writes nothing.
     void SaveMainMonitorAs(const base::TableModel& rows, platform::IDialogs& dialogs);
@@ -64,6 +71,7 @@ private:
     const std::string& m_programFolder;
     LogServices m_services;
     AnsiEncoder m_encoder;  // kept between saves: each character is converted once
+    RowWriter* m_runningMainMonitorSave = nullptr;
 };
 
 }  // namespace logs

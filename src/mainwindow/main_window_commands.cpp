@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/product.h"
-#include "base/reentry_guard.h"
 #include "mainwindow/list_columns.h"
 #include "mainwindow/main_window_model.h"
 #include "mainwindow/toolbar_buttons.h"
@@ -103,9 +102,10 @@ void MainWindowModel::ToggleAlwaysOnTop() {
     if (!m_minimised) SetAlwaysOnTop(MenuChecked(MenuItem::mnuFRONT));
 }
 
-void MainWindowModel::SaveMainMonitor() {
-    const base::ReentryGuard saving(m_savingMainMonitor);
-    if (saving.First()) m_logs.SaveMainMonitor(List(ListId::lstvMain));
+void MainWindowModel::SaveMainMonitor() { m_logs.SaveMainMonitor(List(ListId::lstvMain)); }
+
+void MainWindowModel::SaveMainMonitorBeforeSessionEnd() {
+    m_logs.SaveMainMonitorBeforeSessionEnd(List(ListId::lstvMain));
 }
 
 void MainWindowModel::ToolbarClick(std::string_view key) {

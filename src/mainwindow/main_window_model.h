@@ -169,10 +169,12 @@ public:
     // --- Logs of this window's lists.
     // Writes the kind's list to its automatic log if cheAutoLogApp is checked.
     void AutomaticLog(logs::LogKind kind);
-    // Writes the main monitor to the next free YYYYMMDD-N.txt. Asked again while it pumps
-    // messages, it is the same save: the running one reads the row count after every row, so
-    // what the second caller added is written to the one file.
+    // Writes the main monitor to the next free YYYYMMDD-N.txt; asked again while it pumps
+    // messages, it writes nothing.
     void SaveMainMonitor();
+    // The same when the Windows session ends: a main-monitor save under way is finished at once
+    // with every row, so there is one file, complete when the process is ended.
+    void SaveMainMonitorBeforeSessionEnd();
     void SaveMainMonitorAs() { m_logs.SaveMainMonitorAs(List(ListId::lstvMain), m_dialogs); }
     logs::LogWriter& Logs() { return m_logs; }
 
@@ -235,7 +237,6 @@ private:
 
     bool m_autoLogEnabled = true;
     bool m_autoLogChecked = false;
-    bool m_savingMainMonitor = false;
 };
 
 }  // namespace mainwindow

@@ -13,6 +13,7 @@ public:
     explicit MainMonitorView(mainwindow::MainWindowModel& model) : m_model(model) {}
     base::TableModel& Rows() override { return m_model.List(mainwindow::ListId::lstvMain); }
     void Save() override { m_model.SaveMainMonitor(); }
+    void SaveBeforeSessionEnd() override { m_model.SaveMainMonitorBeforeSessionEnd(); }
 
 private:
     mainwindow::MainWindowModel& m_model;

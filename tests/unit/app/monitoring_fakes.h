@@ -21,16 +21,13 @@ namespace fakes {
 class FakeMainMonitor : public app::IMainMonitor {
 public:
     base::TableModel& Rows() override { return rows; }
-    void Save() override {
-        if (onSave) onSave();
-        savedRowCounts.push_back(rows.RowCount());
-    }
+    void Save() override { savedRowCounts.push_back(rows.RowCount()); }
+    void SaveBeforeSessionEnd() override { sessionEndSaveRowCounts.push_back(rows.RowCount()); }
     std::string Row(std::size_t i) const { return rows.Cell(i, 0); }
     std::string LastRow() const { return Row(rows.RowCount() - 1); }
 
     base::TableModel rows;
-    std::vector<std::size_t> savedRowCounts;
-    std::function<void()> onSave;  // runs as a save would pump messages
+    std::vector<std::size_t> savedRowCounts, sessionEndSaveRowCounts;
 };
 
 class FakeSessionWindow : public app::ISessionWindow {

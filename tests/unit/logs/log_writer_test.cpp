@@ -124,6 +124,31 @@ TEST_F(LogWriterTest, ASaveToleratesTheListChangingWhileItPumps) {
     EXPECT_EQ(File("process_tmplog_20050622.txt"), "2005/06/22 09:05:03\tnew0\t\t\t\r\n");
 }
 
+// The process may be ended as soon as the session end is answered, so that save finishes the one
+// under way there and then; a save asked for by anything else meanwhile writes nothing.
+TEST_F(LogWriterTest, TheSessionEndFinishesTheMainMonitorSaveUnderWay) {
+    table.AddRow({"banner"});
+    table.AddRow({"row"});
+    pump.onPump = [&] {
+        table.AddRow({"tick"});
+        EXPECT_FALSE(writer.SaveMainMonitor(table));
+        pump.onPump = [&] {
+            table.AddRow({"Windowsが終了されました。"});
+            writer.SaveMainMonitorBeforeSessionEnd(table);
+            EXPECT_EQ(File("20050622-1.txt"), "banner\r\nrow\r\ntick\r\nWindowsが終了されました。\r\n");
+        };
+    };
+    EXPECT_TRUE(writer.SaveMainMonitor(table));
+    EXPECT_EQ(pump.calls, 2);
+    EXPECT_FALSE(files.Has(kLogs + "20050622-2.txt"));
+
+    // Otherwise a save writes the rows there were when it started: what a tick adds is not
+    // written after the session-end row.
+    pump.onPump = [&] { table.AddRow({"tick"}); };
+    writer.SaveMainMonitor(table);
+    EXPECT_TRUE(File("20050622-2.txt").ends_with("tick\r\nWindowsが終了されました。\r\n"));
+}
+
 TEST_F(LogWriterTest, FailuresArePassedOverSilently) {
     table.AddRow({"x"});
     files.failFolderCreation = true;

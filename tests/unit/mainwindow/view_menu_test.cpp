@@ -53,21 +53,6 @@ TEST_F(MainWindowTest, AlwaysOnTopWhileMinimisedOnlyChecksTheItem) {
     EXPECT_TRUE(model.AlwaysOnTop());
 }
 
-// A second save asked for while the first pumps messages (a session end, a full monitor) adds
-// no second file: the running save writes the rows added meanwhile.
-TEST_F(MainWindowTest, ASaveAskedForDuringASaveIsTheSameFile) {
-    model.AddMonitorRow("banner");
-    model.AddMonitorRow("row");
-    pump.onPump = [&] {
-        pump.onPump = nullptr;
-        model.AddMonitorRow("last");
-        model.SaveMainMonitor();
-    };
-    model.SaveMainMonitor();
-    EXPECT_EQ(base::AnsiToUtf8(files.Get("C:\\Lookout\\logs\\20050622-1.txt")), "banner\r\nrow\r\nlast\r\n");
-    EXPECT_FALSE(files.FileExists("C:\\Lookout\\logs\\20050622-2.txt"));
-}
-
 TEST(AboutBox, CaptionAndVersionLabel) {
     const AboutTexts texts = MakeAboutTexts({1, 0, 12});
     EXPECT_EQ(texts.caption, "Veskar_Lookout （ﾊﾞｰｼﾞｮﾝ情報）");
