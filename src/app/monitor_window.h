@@ -12,7 +12,8 @@ class IMainMonitor {
 public:
     virtual ~IMainMonitor() = default;
     virtual base::TableModel& Rows() = 0;
-    virtual void Save() = 0;
+    // False when nothing was written: another save of it was under way.
+    virtual bool Save() = 0;
     // The save when the Windows session ends: it also finishes a save under way.
     virtual void SaveBeforeSessionEnd() = 0;
 };

@@ -140,8 +140,9 @@ void SessionGuard::AddOpenFileRows(const std::vector<platform::OpenFileInfo>& fi
 }
 
 void SessionGuard::AutosaveMainMonitor() {
+    // During another save nothing was written: the rows stay for a later tick.
+    if (!m_window.mainMonitor.Save()) return;
     base::TableModel& monitor = m_window.mainMonitor.Rows();
-    m_window.mainMonitor.Save();
     monitor.Clear();
     monitor.AddRow({base::kBanner});
     monitor.AddRow({Stamp() + "  ログを自動保存しました。"});

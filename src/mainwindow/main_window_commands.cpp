@@ -102,7 +102,7 @@ void MainWindowModel::ToggleAlwaysOnTop() {
     if (!m_minimised) SetAlwaysOnTop(MenuChecked(MenuItem::mnuFRONT));
 }
 
-void MainWindowModel::SaveMainMonitor() { m_logs.SaveMainMonitor(List(ListId::lstvMain)); }
+bool MainWindowModel::SaveMainMonitor() { return m_logs.SaveMainMonitor(List(ListId::lstvMain)); }
 
 void MainWindowModel::SaveMainMonitorBeforeSessionEnd() {
     m_logs.SaveMainMonitorBeforeSessionEnd(List(ListId::lstvMain));

@@ -170,8 +170,8 @@ public:
     // Writes the kind's list to its automatic log if cheAutoLogApp is checked.
     void AutomaticLog(logs::LogKind kind);
     // Writes the main monitor to the next free YYYYMMDD-N.txt; asked again while it pumps
-    // messages, it writes nothing.
-    void SaveMainMonitor();
+    // messages, it writes nothing and answers false.
+    bool SaveMainMonitor();
     // The same when the Windows session ends: a main-monitor save under way is finished at once
     // with every row, so there is one file, complete when the process is ended.
     void SaveMainMonitorBeforeSessionEnd();

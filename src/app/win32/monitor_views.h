@@ -12,7 +12,7 @@ class MainMonitorView final : public IMainMonitor {
 public:
     explicit MainMonitorView(mainwindow::MainWindowModel& model) : m_model(model) {}
     base::TableModel& Rows() override { return m_model.List(mainwindow::ListId::lstvMain); }
-    void Save() override { m_model.SaveMainMonitor(); }
+    bool Save() override { return m_model.SaveMainMonitor(); }
     void SaveBeforeSessionEnd() override { m_model.SaveMainMonitorBeforeSessionEnd(); }
 
 private:

@@ -21,13 +21,17 @@ namespace fakes {
 class FakeMainMonitor : public app::IMainMonitor {
 public:
     base::TableModel& Rows() override { return rows; }
-    void Save() override { savedRowCounts.push_back(rows.RowCount()); }
+    bool Save() override {
+        if (saveWrites) savedRowCounts.push_back(rows.RowCount());
+        return saveWrites;
+    }
     void SaveBeforeSessionEnd() override { sessionEndSaveRowCounts.push_back(rows.RowCount()); }
     std::string Row(std::size_t i) const { return rows.Cell(i, 0); }
     std::string LastRow() const { return Row(rows.RowCount() - 1); }
 
     base::TableModel rows;
     std::vector<std::size_t> savedRowCounts, sessionEndSaveRowCounts;
+    bool saveWrites = true;  // false: another save is under way
 };
 
 class FakeSessionWindow : public app::ISessionWindow {

@@ -190,6 +190,11 @@ TEST_F(SessionGuardTest, MainMonitorPastTenThousandRowsIsSavedAndStartedAfresh) 
     EXPECT_EQ(monitor.rows.RowCount(), 10000u);
 
     net.fileAnswers = {{platform::kNerrSuccess, {{"C:\\f", "u"}}}};
+    monitor.saveWrites = false;  // another save is under way: nothing written, nothing cleared
+    guard.LogOpenFiles();
+    EXPECT_EQ(monitor.rows.RowCount(), 10001u);
+
+    monitor.saveWrites = true;
     guard.LogOpenFiles();
     EXPECT_EQ(monitor.savedRowCounts, std::vector<std::size_t>{10001});
     EXPECT_EQ(Rows(), (std::vector<std::string>{base::kBanner, "[2005/06/22 09:05:03]  ログを自動保存しました。"}));
