@@ -10,6 +10,8 @@ public:
     // Adds the icon (harmless when it is there already), then sets its picture from the
     // icon file and its tip. Failures are ignored.
     virtual void Show(const std::string& iconPath, const std::string& tip) = 0;
+    // Removes the icon for good as the program ends: a monitoring tick that is still finishing
+    // must not bring it back, so Show does nothing afterwards.
     virtual void Remove() = 0;
 };
 

@@ -1,6 +1,5 @@
 #include "platform/win32/tray_icon.h"
 
-
 #include "base/resource_ids.h"
 #include "base/win32/wide.h"
 
@@ -29,7 +28,12 @@ NOTIFYICONDATAW TrayIcon::Data() const {
     return data;
 }
 
+TrayIcon::~TrayIcon() {
+    if (m_shown) Remove();
+}
+
 void TrayIcon::Show(const std::string& iconPath, const std::string& tip) {
+    if (m_removed) return;
     base::UniqueIcon icon(LoadTrayIcon(iconPath));
     NOTIFYICONDATAW data = Data();
     data.uFlags = NIF_ICON | NIF_TIP | NIF_MESSAGE;
@@ -49,6 +53,7 @@ void TrayIcon::Remove() {
     NOTIFYICONDATAW data = Data();
     Shell_NotifyIconW(NIM_DELETE, &data);
     m_shown = false;
+    m_removed = true;
 }
 
 void TrayIcon::ShowAgain() {

@@ -14,7 +14,10 @@ namespace platform::win32 {
 class TrayIcon : public ITrayIcon {
 public:
     explicit TrayIcon(HWND owner) : m_owner(owner) {}
-    ~TrayIcon() override = default;
+    // An icon still shown goes with its owner, so none is left in the tray.
+    ~TrayIcon() override;
+    TrayIcon(const TrayIcon&) = delete;
+    TrayIcon& operator=(const TrayIcon&) = delete;
 
     void Show(const std::string& iconPath, const std::string& tip) override;
     void Remove() override;
@@ -28,6 +31,7 @@ private:
     HWND m_owner;
     base::UniqueIcon m_icon;
     bool m_shown = false;
+    bool m_removed = false;
     std::string m_iconPath;
     std::string m_tip;
 };
