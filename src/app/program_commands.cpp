@@ -24,7 +24,8 @@ bool ProgramCommands::Exit(const std::function<void()>& hideMainWindow) {
     // pumps messages for a while.
     hideMainWindow();
     m_monitoring.StopMonitoring();
-    if (m_program.settings.logflag == 1) m_mainMonitor.Save();
+    // Only 0 skips the save here, unlike at the end of the session, where only 1 saves.
+    if (m_program.settings.logflag != 0) m_mainMonitor.Save();
     m_trayIcon.Remove();
     return true;
 }

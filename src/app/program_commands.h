@@ -18,7 +18,7 @@ public:
                     platform::ITrayIcon& trayIcon, platform::IClock& clock);
 
     // Asks for confirmation; on Yes unloads the main window (hides it and stops monitoring),
-    // saves the main monitor when "logflag" is 1 and removes the tray icon. True when the
+    // saves the main monitor unless "logflag" is 0 and removes the tray icon. True when the
     // program is to end.
     bool Exit(const std::function<void()>& hideMainWindow);
     // Windows ends the session: with "logflag" 1 the main monitor gets its last row and is saved.

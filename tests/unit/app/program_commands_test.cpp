@@ -48,6 +48,11 @@ TEST_F(ProgramCommandsTest, ExitWithLogflagSavesTheWholeRunIncludingTheStopRow) 
     EXPECT_TRUE(commands.Exit([] {}));
     EXPECT_EQ(monitor.savedRowCounts.size(), 1u);  // nothing written without logflag
     EXPECT_EQ(tray.removals, 2);
+
+    program.settings.logflag = 2;  // any value but 0 saves on exit
+    dialogs.answers = {platform::msgbox::kYes};
+    EXPECT_TRUE(commands.Exit([] {}));
+    EXPECT_EQ(monitor.savedRowCounts.size(), 2u);
 }
 
 TEST_F(ProgramCommandsTest, EndOfTheWindowsSessionIsTheLastSavedRow) {
