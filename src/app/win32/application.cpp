@@ -65,7 +65,7 @@ void Application::WireMainWindow() {
         [this] { m_monitoring->StopMonitoring(); },
         [this] { m_commands->ClearMainMonitor(); },
         [this] {
-            if (m_commands->Exit([this] { ShowWindow(m_frmMain->Handle(), SW_HIDE); })) EndProgram();
+            if (m_commands->Exit([this] { m_model->SetVisible(false); })) EndProgram();
         },
     });
     m_model->SetTimerInterval(FormTimer::Timer2, kTimer2Interval);
@@ -96,7 +96,7 @@ void Application::OpenOptions() {
 void Application::EndProgram() {
     // Called from inside the main window's own handlers: the window goes away with the
     // application object, after the message loop has ended.
-    ShowWindow(m_frmMain->Handle(), SW_HIDE);
+    m_model->SetVisible(false);
     PostQuitMessage(0);
 }
 
