@@ -18,11 +18,11 @@ ProgramCommands::ProgramCommands(Program& program, IMainMonitor& mainMonitor, Mo
     : m_program(program), m_mainMonitor(mainMonitor), m_monitoring(monitoring), m_dialogs(dialogs), m_trayIcon(trayIcon),
       m_clock(clock) {}
 
-bool ProgramCommands::Exit(const std::function<void()>& hideMainWindow) {
+bool ProgramCommands::Exit(const std::function<void()>& unloadMainWindow) {
     if (!Confirmed(m_dialogs, "終了してもよろしいですか？")) return false;
     // Unloading the main window: it goes from the screen and monitoring stops, before the save
     // pumps messages for a while.
-    hideMainWindow();
+    unloadMainWindow();
     m_monitoring.StopMonitoring();
     // Only 0 skips the save here, unlike at the end of the session, where only 1 saves.
     if (m_program.settings.logflag != 0) m_mainMonitor.Save();

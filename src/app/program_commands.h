@@ -17,10 +17,10 @@ public:
     ProgramCommands(Program& program, IMainMonitor& mainMonitor, MonitoringCycle& monitoring, platform::IDialogs& dialogs,
                     platform::ITrayIcon& trayIcon, platform::IClock& clock);
 
-    // Asks for confirmation; on Yes unloads the main window (hides it and stops monitoring),
+    // Asks for confirmation; on Yes unloads the main window (and stops monitoring),
     // saves the main monitor unless "logflag" is 0 and removes the tray icon. True when the
     // program is to end.
-    bool Exit(const std::function<void()>& hideMainWindow);
+    bool Exit(const std::function<void()>& unloadMainWindow);
     // Windows ends the session: with "logflag" 1 the main monitor gets its last row and is saved.
     // A save of the main monitor under way is finished with that row instead of a second file.
     void WindowsSessionEnding();

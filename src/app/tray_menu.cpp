@@ -25,6 +25,7 @@ std::optional<TrayMenuItem> TrayMenuItemOfCommand(int command) {
 }
 
 bool TrayMenu::Mouse(int message, bool mainWindowVisible) {
+    if (m_mainWindow.Closing()) return false;  // the exit is saving: no second exit, no window back
     if (message == kTrayDoubleClick) m_mainWindow.ShowNormal();
     return message == kTrayRightUp && !mainWindowVisible;
 }

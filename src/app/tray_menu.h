@@ -37,7 +37,8 @@ public:
 
     // A mouse message of the tray icon: a double-click shows the main window at its standard
     // size; true when the menu is to pop up, which a right click asks for only while the main
-    // window is hidden. Other messages are ignored.
+    // window is hidden. Other messages, and all of them once the main window is unloaded, are
+    // ignored.
     bool Mouse(int message, bool mainWindowVisible);
     void Click(TrayMenuItem item);
 

@@ -56,6 +56,12 @@ void MainWindowModel::SetVisible(bool visible) {
     if (Store(m_visible, visible)) Notify(Change::Visible);
 }
 
+void MainWindowModel::Unload() {
+    m_closing = true;
+    SetVisible(false);
+    for (const FormTimer timer : kTabTimers) SetTimerEnabled(timer, false);
+}
+
 const std::string& MainWindowModel::TrafficLabel(int index) const {
     return m_trafficLabels.at(static_cast<std::size_t>(index));
 }

@@ -97,6 +97,10 @@ public:
     void SetPanelText(int panel, std::string text);
     bool Visible() const { return m_visible; }
     void SetVisible(bool visible);
+    // The form's unload as the program ends: it leaves the screen and its tab timers stop, so
+    // that nothing runs from it while the exit's save pumps messages.
+    void Unload();
+    bool Closing() const { return m_closing; }
     // Shows the window at its standard size, restoring it when it is minimised or maximised.
     void ShowNormal();
     // The traffic figures: 0 received, 1 sent.
@@ -215,6 +219,7 @@ private:
     std::string m_computerName;
     std::array<std::string, 5> m_panels;
     bool m_visible = false;
+    bool m_closing = false;
     std::array<std::string, 2> m_trafficLabels;
     std::string m_interfaceLabel;
     base::Colour m_backColour;

@@ -65,7 +65,7 @@ void Application::WireMainWindow() {
         [this] { m_monitoring->StopMonitoring(); },
         [this] { m_commands->ClearMainMonitor(); },
         [this] {
-            if (m_commands->Exit([this] { m_model->SetVisible(false); })) EndProgram();
+            if (m_commands->Exit([this] { m_model->Unload(); })) EndProgram();
         },
     });
     m_model->SetTimerInterval(FormTimer::Timer2, kTimer2Interval);

@@ -21,6 +21,8 @@ FrmMenu::FrmMenu(TrayMenu& menu, HWND mainWindow)
 }
 
 void FrmMenu::OnTrayMouse(int message) {
+    // A modal dialog of the main window (the about box, the exit's question) keeps the tray quiet.
+    if (!IsWindowEnabled(m_mainWindow)) return;
     if (m_menu.Mouse(message, IsWindowVisible(m_mainWindow) != FALSE)) PopUp();
 }
 

@@ -28,6 +28,17 @@ TEST_F(TrayMenuTest, MouseOnTheTrayIcon) {
     EXPECT_EQ(view.Count(mainwindow::Change::ShowNormal), 1);
 }
 
+// While the exit saves and pumps messages, neither the tray nor a tab timer may run anything.
+TEST_F(TrayMenuTest, AnUnloadedMainWindowIgnoresTheTrayAndItsTabTimers) {
+    model.ClickTab(2);
+    ASSERT_TRUE(model.TimerRunning(mainwindow::FormTimer::tmrTASK));
+    model.Unload();
+    EXPECT_FALSE(model.TimerRunning(mainwindow::FormTimer::tmrTASK));
+    EXPECT_FALSE(tray.Mouse(517, false));
+    EXPECT_FALSE(tray.Mouse(515, false));
+    EXPECT_FALSE(model.Visible());
+}
+
 TEST_F(TrayMenuTest, ItemsRunTheMainWindowsItemsOfTheSameName) {
     std::vector<std::string> ran;
     model.SetCommands({{}, {}, {}, [&] { ran.push_back("exit"); }});
