@@ -99,11 +99,11 @@ void SessionGuard::CheckLists(const std::string& client, const std::string& user
 
 void SessionGuard::MarkForDisconnection(const char* reason, const std::string& client, const std::string& user) {
     m_window.mainMonitor.Rows().AddRow({Stamp() + reason + client + "に対して切断処理を実行しました｡"});
-    // A violator is marked again at every tick while it stays connected: one row per client keeps
-    // Timer2's work flat however long that lasts.
+    // A violator is marked again at every tick while it stays connected: one row per session
+    // (client and user, as Timer2 closes it) keeps Timer2's work flat however long that lasts.
     base::TableModel& list = m_window.sessions.DisconnectList();
     for (std::size_t row = 0; row < list.RowCount(); ++row) {
-        if (list.Cell(row, 1) == client) return;
+        if (list.Cell(row, 1) == client && list.Cell(row, 0) == user) return;
     }
     list.AddRow({user, client});
 }

@@ -145,19 +145,21 @@ TEST_F(SessionGuardTest, MoreThanOneHundredSessionsRaiseTheSubscriptError) {
     EXPECT_EQ(guard.Run("S"), 100);  // every tick starts again at the first slot
 }
 
-TEST_F(SessionGuardTest, AViolatorConnectedAllDayKeepsOneRowAndTimer2sWorkStaysFlat) {
+// One row per session: a second user on the same client has a session of its own to close.
+TEST_F(SessionGuardTest, AViolatorConnectedAllDayKeepsOneRowPerUserAndTimer2sWorkStaysFlat) {
     program.denyList[0] = "OK";
     program.denyList[2] = "BAD";
-    net.steadySessions = FakeNetApi::Sessions({Session("BAD", "eve"), Session("GOOD", "u")});
+    net.steadySessions =
+        FakeNetApi::Sessions({Session("BAD", "eve"), Session("BAD", "mallory"), Session("GOOD", "u")});
     for (int second = 0; second < 24 * 60 * 60; ++second) {
         clock.now = {2005, 6, 22, second / 3600, second / 60 % 60, second % 60};
         guard.Run("S");
         monitor.rows.Clear();
         const std::size_t before = net.deleted.size();
         guard.DisconnectMarked();
-        ASSERT_EQ(net.deleted.size() - before, 1u) << "at second " << second;
+        ASSERT_EQ(net.deleted.size() - before, 2u) << "at second " << second;
     }
-    EXPECT_EQ(sessions.disconnectList.RowCount(), 1u);
+    EXPECT_EQ(net.deleted.back(), "BAD/mallory");
 }
 
 TEST_F(SessionGuardTest, Timer2DisconnectsEveryMarkedClientAgainAndAgain) {
