@@ -13,7 +13,19 @@ constexpr Column kAddPort[] = {{"プロトコル", 1400},     {"ローカルIP",
 constexpr Column kPc[] = {{"マシン名", 2000}, {"IPアドレス", 2000}, {"MACアドレス", 2000}, {"ドメイン名", 2000}};
 constexpr Column kSessions[] = {{"コンピュータ", 2000}, {"ユーザ", 1000}};
 
+constexpr int kMainReset[] = {11200};
+constexpr int kTaskReset[] = {2000, 1000, 1000, 6350};
+constexpr int kProcessReset[] = {2000, 1000, 1200, 1000, 4800};
+constexpr int kStartupReset[] = {2000, 7600, 1000};
+constexpr int kAddPortReset[] = {1400, 1400, 1400, 1400, 1400, 1400};
+constexpr ColumnWidths kReset[] = {
+    {ListId::lstvMain, kMainReset},       {ListId::lstvTask, kTaskReset},       {ListId::lstvProcess, kProcessReset},
+    {ListId::lstvStartup, kStartupReset}, {ListId::lstvAddPort, kAddPortReset},
+};
+
 }  // namespace
+
+std::span<const ColumnWidths> ResetColumnWidths() { return kReset; }
 
 std::span<const Column> Columns(ListId list) {
     switch (list) {

@@ -14,6 +14,15 @@ struct Column {
 
 std::span<const Column> Columns(ListId list);
 
+// What "アイテムの幅を初期値に戻す(&W)" gives back to one list view, column by column, in twips.
+struct ColumnWidths {
+    ListId list;
+    std::span<const int> twips;
+};
+// The lists in the order the reset treats them. It is not the load-time table: three path and
+// command columns come back a little wider, and lstvPc keeps the widths the user gave it.
+std::span<const ColumnWidths> ResetColumnWidths();
+
 // Where every list view of a tab stands when the window loads, in twips.
 inline constexpr int kListTopTwips = 740;
 inline constexpr int kListLeftTwips = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/product.h"
+#include "base/reentry_guard.h"
 #include "mainwindow/list_columns.h"
 #include "mainwindow/main_window_model.h"
 #include "mainwindow/toolbar_buttons.h"
@@ -82,9 +83,29 @@ void MainWindowModel::MenuClick(MenuItem item) {
         case MenuItem::mnuEND:
             if (m_commands.exit) m_commands.exit();
             return;
+        case MenuItem::mnuFRONT: return ToggleAlwaysOnTop();
+        case MenuItem::mnuGRID: return ToggleGridLines();
+        case MenuItem::mnuITEM_HABA: return Notify(Change::ColumnWidths);
         default: break;
     }
     if (const auto& handler = m_menus[Index(item)].handler) handler();
+}
+
+// Not kept in the settings: every start begins without grid lines.
+void MainWindowModel::ToggleGridLines() {
+    SetMenuChecked(MenuItem::mnuGRID, !MenuChecked(MenuItem::mnuGRID));
+    Notify(Change::ListStyle);
+}
+
+// A minimised window only changes the check mark; the window follows at the next toggle.
+void MainWindowModel::ToggleAlwaysOnTop() {
+    SetMenuChecked(MenuItem::mnuFRONT, !MenuChecked(MenuItem::mnuFRONT));
+    if (!m_minimised) SetAlwaysOnTop(MenuChecked(MenuItem::mnuFRONT));
+}
+
+void MainWindowModel::SaveMainMonitor() {
+    const base::ReentryGuard saving(m_savingMainMonitor);
+    if (saving.First()) m_logs.SaveMainMonitor(List(ListId::lstvMain));
 }
 
 void MainWindowModel::ToolbarClick(std::string_view key) {

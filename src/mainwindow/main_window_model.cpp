@@ -60,6 +60,15 @@ const std::string& MainWindowModel::TrafficLabel(int index) const {
     return m_trafficLabels.at(static_cast<std::size_t>(index));
 }
 
+void MainWindowModel::ShowNormal() {
+    m_visible = true;
+    Notify(Change::ShowNormal);
+}
+
+unsigned MainWindowModel::TabListStyle() const {
+    return list_style::kFullRowSelect | (MenuChecked(MenuItem::mnuGRID) ? list_style::kGridLines : 0u);
+}
+
 void MainWindowModel::SetTrafficLabel(int index, std::string text) {
     if (Store(m_trafficLabels.at(static_cast<std::size_t>(index)), std::move(text))) {
         Notify(Change::TrafficLabel, index);

@@ -45,7 +45,16 @@ enum class Change {
     InterfaceLabel,
     ListColours,
     AlwaysOnTop,
+    ListStyle,      // the extended style of the six tab lists (grid lines)
+    ColumnWidths,   // the reset widths of ResetColumnWidths() are to be applied
+    ShowNormal,     // shown at the standard size, neither minimised nor maximised
 };
+
+// The extended list-view styles the tab lists get: full-row selection, with or without grid lines.
+namespace list_style {
+constexpr unsigned kGridLines = 0x01;
+constexpr unsigned kFullRowSelect = 0x20;
+}  // namespace list_style
 
 class IMainWindowView {
 public:
@@ -88,6 +97,8 @@ public:
     void SetPanelText(int panel, std::string text);
     bool Visible() const { return m_visible; }
     void SetVisible(bool visible);
+    // Shows the window at its standard size, restoring it when it is minimised or maximised.
+    void ShowNormal();
     // The traffic figures: 0 received, 1 sent.
     const std::string& TrafficLabel(int index) const;
     void SetTrafficLabel(int index, std::string text);
@@ -97,6 +108,8 @@ public:
     base::Colour ListTextColour() const { return m_textColour; }
     void SetListColours(base::Colour back, base::Colour text);
     bool AlwaysOnTop() const { return m_alwaysOnTop; }
+    // The extended style of the six tab lists: grid lines while "グリッド線を表示する(&G)" is checked.
+    unsigned TabListStyle() const;
     void SetAlwaysOnTop(bool onTop);
     // Kept up to date by the view.
     bool Minimised() const { return m_minimised; }
@@ -156,8 +169,10 @@ public:
     // --- Logs of this window's lists.
     // Writes the kind's list to its automatic log if cheAutoLogApp is checked.
     void AutomaticLog(logs::LogKind kind);
-    // Writes the main monitor to the next free YYYYMMDD-N.txt.
-    void SaveMainMonitor() { m_logs.SaveMainMonitor(List(ListId::lstvMain)); }
+    // Writes the main monitor to the next free YYYYMMDD-N.txt. Asked again while it pumps
+    // messages, it is the same save: the running one reads the row count after every row, so
+    // what the second caller added is written to the one file.
+    void SaveMainMonitor();
     void SaveMainMonitorAs() { m_logs.SaveMainMonitorAs(List(ListId::lstvMain), m_dialogs); }
     logs::LogWriter& Logs() { return m_logs; }
 
@@ -186,6 +201,8 @@ private:
     void RunRefresh(int tab, const char* errorText, bool fromTimer = false);
     void ShowCountOf(int tab);
     void ApplyMenuStateOf(int tab);
+    void ToggleGridLines();
+    void ToggleAlwaysOnTop();
     logs::ListRows RowsOf(logs::LogKind kind) const;
 
     IMainWindowView* m_view = nullptr;
@@ -218,6 +235,7 @@ private:
 
     bool m_autoLogEnabled = true;
     bool m_autoLogChecked = false;
+    bool m_savingMainMonitor = false;
 };
 
 }  // namespace mainwindow

@@ -14,3 +14,14 @@ public:
 };
 
 }  // namespace platform
+
+namespace platform {
+
+// The shell's list of recently used documents.
+class IRecentDocuments {
+public:
+    virtual ~IRecentDocuments() = default;
+    virtual void Clear() = 0;
+};
+
+}  // namespace platform

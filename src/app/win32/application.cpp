@@ -49,6 +49,7 @@ void Application::LoadMainWindow(const std::string& caption) {
     m_commands = std::make_unique<ProgramCommands>(m_program, m_views->mainMonitor, *m_monitoring, m_dialogs,
                                                    *m_trayIcon, m_clock);
     m_pages = std::make_unique<TabPages>(*m_model, SharedServices{m_dialogs, m_ipHelper, m_winsock, *m_frmMain});
+    m_menus = std::make_unique<HelpAndTrayMenus>(*m_model, *m_frmMain, *m_trayIcon, m_dialogs);
     WireMainWindow();
     m_monitoring->LoadInterfaces();
     if (const auto local = network::LocalAddressText(m_winsock)) m_model->SetPanelText(1, *local);
@@ -63,7 +64,7 @@ void Application::WireMainWindow() {
         [this] { m_monitoring->StopMonitoring(); },
         [this] { m_commands->ClearMainMonitor(); },
         [this] {
-            if (m_commands->Exit()) EndProgram();
+            if (m_commands->Exit([this] { ShowWindow(m_frmMain->Handle(), SW_HIDE); })) EndProgram();
         },
     });
     m_model->SetTimerInterval(FormTimer::Timer2, kTimer2Interval);

@@ -7,6 +7,7 @@
 #include "app/program.h"
 #include "app/program_commands.h"
 #include "app/session_guard.h"
+#include "app/win32/help_and_tray_menus.h"
 #include "app/startup.h"
 #include "app/win32/monitor_views.h"
 #include "app/win32/tab_pages.h"
@@ -75,6 +76,7 @@ private:
     std::unique_ptr<MonitoringCycle> m_monitoring;
     std::unique_ptr<ProgramCommands> m_commands;
     std::unique_ptr<TabPages> m_pages;
+    std::unique_ptr<HelpAndTrayMenus> m_menus;
 };
 
 }  // namespace app

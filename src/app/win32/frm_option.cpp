@@ -6,6 +6,7 @@
 
 #include "base/win32/colour.h"
 #include "base/win32/controls.h"
+#include "base/win32/modal_window.h"
 #include "base/win32/wide.h"
 
 namespace app {
@@ -47,41 +48,17 @@ void FrmOption::ShowModal(HWND owner) {
     const DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU;
     RECT frame{0, 0, S(kWidth), S(kHeight)};
     AdjustWindowRectEx(&frame, style, FALSE, WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT);
-    // Centred over the owner, and always whole on the work area.
-    RECT workArea{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &workArea, 0);
-    RECT ownerRect = workArea;
-    if (owner && IsWindowVisible(owner)) GetWindowRect(owner, &ownerRect);
     const int width = frame.right - frame.left;
     const int height = frame.bottom - frame.top;
-    const int x = std::clamp<int>(ownerRect.left + ((ownerRect.right - ownerRect.left) - width) / 2, workArea.left,
-                                  std::max<int>(workArea.left, workArea.right - width));
-    const int y = std::clamp<int>(ownerRect.top + ((ownerRect.bottom - ownerRect.top) - height) / 2, workArea.top,
-                                  std::max<int>(workArea.top, workArea.bottom - height));
-    CreateWindowFor(WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT, kClassName, L"全般的な設定", style, x, y, width, height,
+    const POINT at = base::CentredPosition(owner, width, height);
+    CreateWindowFor(WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT, kClassName, L"全般的な設定", style, at.x, at.y, width, height,
                     owner);
     CreateControls();
     FillControls();
     ShowPage(0);
 
-    if (owner) EnableWindow(owner, FALSE);
-    ShowWindow(Handle(), SW_SHOW);
-    MSG message;
     m_closed = false;
-    while (!m_closed) {
-        const BOOL got = GetMessageW(&message, nullptr, 0, 0);
-        if (got == 0 || got == -1) {
-            PostQuitMessage(got == 0 ? static_cast<int>(message.wParam) : 0);
-            break;
-        }
-        if (!IsDialogMessageW(Handle(), &message)) {
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
-        }
-    }
-    if (owner) EnableWindow(owner, TRUE);
-    if (Handle()) DestroyWindow(Handle());
-    if (owner) SetForegroundWindow(owner);
+    base::RunModal(Handle(), owner, m_closed);
 }
 
 void FrmOption::CreateControls() {

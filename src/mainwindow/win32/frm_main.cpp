@@ -69,6 +69,7 @@ FrmMain::FrmMain(MainWindowModel& model)
                     CW_USEDEFAULT, CW_USEDEFAULT, base::TwipsToPixels(kFormWidthTwips, m_twipsPerPixel.x),
                     base::TwipsToPixels(kFormHeightTwips, m_twipsPerPixel.y), nullptr, m_menuBar);
     CreateControls();
+    m_taskbarCreatedMessage = RegisterWindowMessageW(L"TaskbarCreated");
     m_created = true;
     ApplyAll();
     m_model.SetView(this);
@@ -115,10 +116,6 @@ void FrmMain::CreateControls() {
         view = std::make_unique<VirtualListView>(self, control_id::kFirstList + ListIndex(list), m_model.List(list),
                                                  Columns(list), m_twipsPerPixel, listBounds);
         SetWindowPos(view->Handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    }
-    // A click selects the whole row.
-    for (const ListId list : kTabLists) {
-        SendMessageW(ListHandle(list), LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT);
     }
 
     m_statusBar = base::CreateControl(STATUSCLASSNAMEW, "", WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0, 0, self,
@@ -174,7 +171,7 @@ void FrmMain::CreateBand() {
 // Brings every control to the model's state, as the form stands after loading.
 void FrmMain::ApplyAll() {
     for (const Change change : {Change::Caption, Change::ComputerName, Change::ShownList, Change::AutoLog,
-                                Change::InterfaceLabel, Change::ListColours, Change::AlwaysOnTop}) {
+                                Change::InterfaceLabel, Change::ListColours, Change::AlwaysOnTop, Change::ListStyle}) {
         OnChanged(change, 0);
     }
     for (int panel = 1; panel <= 5; ++panel) OnChanged(Change::Panel, panel);
@@ -234,6 +231,21 @@ void FrmMain::OnChanged(Change what, int index) {
             SetWindowPos(Handle(), m_model.AlwaysOnTop() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                          SWP_NOMOVE | SWP_NOSIZE);
             break;
+        case Change::ListStyle:
+            // wParam 0: the style given is the whole extended style.
+            for (const ListId list : kTabLists) {
+                SendMessageW(ListHandle(list), LVM_SETEXTENDEDLISTVIEWSTYLE, 0, m_model.TabListStyle());
+            }
+            break;
+        case Change::ColumnWidths:
+            for (const ColumnWidths& widths : ResetColumnWidths()) {
+                for (std::size_t column = 0; column < widths.twips.size(); ++column) {
+                    SendMessageW(ListHandle(widths.list), LVM_SETCOLUMNWIDTH, column,
+                                 base::TwipsToPixels(widths.twips[column], m_twipsPerPixel.x));
+                }
+            }
+            break;
+        case Change::ShowNormal: ShowWindow(Handle(), SW_SHOWNORMAL); break;
     }
 }
 
@@ -304,6 +316,8 @@ void FrmMain::OnCommand(int id, int code) {
         m_model.SetComputerNameText(base::WindowText(m_computerName));
     } else if (const auto item = MenuItemOfCommand(id); item && code == 0) {
         m_model.MenuClick(*item);
+    } else if (code == 0 && m_otherCommand) {
+        m_otherCommand(id);
     }
 }
 
@@ -342,7 +356,14 @@ LRESULT CALLBACK FrmMain::TabStripProcedure(HWND window, UINT message, WPARAM wP
 LRESULT FrmMain::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     // The system sizes the window and its controls report while they are being created.
     if (!m_created) return base::Window::HandleMessage(message, wParam, lParam);
+    if (message == m_taskbarCreatedMessage && m_taskbarCreatedMessage != 0) {
+        if (m_taskbarCreated) m_taskbarCreated();
+        return 0;
+    }
     switch (message) {
+        case WM_MOUSEMOVE:
+            if (m_mouseMove) m_mouseMove(GET_X_LPARAM(lParam));
+            return 0;
         case WM_SIZE:
             m_model.SetMinimised(wParam == SIZE_MINIMIZED);
             LayOut();

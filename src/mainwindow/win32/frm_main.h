@@ -65,6 +65,13 @@ public:
     void OnWindowsSessionEnding(std::function<void()> handler) { m_sessionEnding = std::move(handler); }
     // Called instead of destroying the window when it is closed.
     void OnClose(std::function<void()> handler) { m_close = std::move(handler); }
+    // Mouse movement over the window, with its horizontal coordinate: the tray icon reports
+    // its mouse messages this way.
+    void OnMouseMove(std::function<void(int x)> handler) { m_mouseMove = std::move(handler); }
+    // A command of a menu that is not this window's own (the tray menu's).
+    void OnOtherCommand(std::function<void(int id)> handler) { m_otherCommand = std::move(handler); }
+    // The shell's taskbar was created again (after the shell restarted): tray icons are gone.
+    void OnTaskbarCreated(std::function<void()> handler) { m_taskbarCreated = std::move(handler); }
 
 protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -103,6 +110,10 @@ private:
 
     std::function<void()> m_sessionEnding;
     std::function<void()> m_close;
+    std::function<void(int)> m_mouseMove;
+    std::function<void(int)> m_otherCommand;
+    std::function<void()> m_taskbarCreated;
+    UINT m_taskbarCreatedMessage = 0;
 };
 
 }  // namespace mainwindow

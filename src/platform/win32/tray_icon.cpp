@@ -40,11 +40,19 @@ void TrayIcon::Show(const std::string& iconPath, const std::string& tip) {
     Shell_NotifyIconW(NIM_ADD, &data);  // fails harmlessly when the icon is there already
     Shell_NotifyIconW(NIM_MODIFY, &data);
     m_icon = std::move(icon);  // the shell keeps using the icon it was given
+    m_shown = true;
+    if (&iconPath != &m_iconPath) m_iconPath = iconPath;
+    if (&tip != &m_tip) m_tip = tip;
 }
 
 void TrayIcon::Remove() {
     NOTIFYICONDATAW data = Data();
     Shell_NotifyIconW(NIM_DELETE, &data);
+    m_shown = false;
+}
+
+void TrayIcon::ShowAgain() {
+    if (m_shown) Show(m_iconPath, m_tip);
 }
 
 }  // namespace platform::win32

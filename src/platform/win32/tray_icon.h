@@ -2,6 +2,8 @@
 #include <windows.h>
 #include <shellapi.h>
 
+#include <string>
+
 #include "base/win32/unique_resource.h"
 #include "platform/shell.h"
 
@@ -16,12 +18,18 @@ public:
 
     void Show(const std::string& iconPath, const std::string& tip) override;
     void Remove() override;
+    // Adds the icon again with its last picture and tip, if it is shown: after the shell
+    // restarted, the new taskbar knows no icons.
+    void ShowAgain();
 
 private:
     NOTIFYICONDATAW Data() const;
 
     HWND m_owner;
     base::UniqueIcon m_icon;
+    bool m_shown = false;
+    std::string m_iconPath;
+    std::string m_tip;
 };
 
 }  // namespace platform::win32

@@ -99,6 +99,16 @@ void Close(const Options& options) {
     if (!PostMessageW(WaitForTopLevelWindow(options), WM_CLOSE, 0, 0)) throw Failure("cannot post WM_CLOSE");
 }
 
+// What the system or the shell would post: a tray icon's callback, a menu command.
+void Post(const Options& options) {
+    const auto& a = options.arguments;
+    if (a.size() != 3) throw std::invalid_argument("post needs MESSAGE WPARAM LPARAM");
+    const auto message = static_cast<UINT>(ParseNumber(a[0], "MESSAGE"));
+    const auto wParam = static_cast<WPARAM>(ParseNumber(a[1], "WPARAM"));
+    const auto lParam = static_cast<LPARAM>(ParseNumber(a[2], "LPARAM"));
+    if (!PostMessageW(WaitForTopLevelWindow(options), message, wParam, lParam)) throw Failure("cannot post the message");
+}
+
 std::vector<std::pair<DWORD, std::string>> Processes(const Options& options) {
     base::UniqueFileHandle snapshot(CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0));
     if (!snapshot) throw Failure("cannot list processes");
@@ -149,6 +159,7 @@ const std::vector<Command>& WindowCommands() {
          [](const Options& o) { SetVisibility(o, false); }},
         {"size", "size W H|minimize|restore  resize the window (outer pixels), or minimise or restore it", Size},
         {"close", "close                   post WM_CLOSE to the window", Close},
+        {"post", "post MSG WPARAM LPARAM  post a message (numbers, 0x for hexadecimal) to the window", Post},
         {"processes", "processes               running processes (of --process): pid, image name", ListProcesses},
         {"wait-exit", "wait-exit               wait until no process named --process runs", WaitExit},
         {"retitle", "retitle TEXT            set the window's title", Retitle},

@@ -2,6 +2,7 @@
 // Fakes for the monitoring tests: the parts of the main window the cycle works on,
 // scripted session and open-file answers, the tray icon and the beeper.
 #include <deque>
+#include <functional>
 #include <map>
 
 #include "app/client_lookup.h"
@@ -20,12 +21,16 @@ namespace fakes {
 class FakeMainMonitor : public app::IMainMonitor {
 public:
     base::TableModel& Rows() override { return rows; }
-    void Save() override { savedRowCounts.push_back(rows.RowCount()); }
+    void Save() override {
+        if (onSave) onSave();
+        savedRowCounts.push_back(rows.RowCount());
+    }
     std::string Row(std::size_t i) const { return rows.Cell(i, 0); }
     std::string LastRow() const { return Row(rows.RowCount() - 1); }
 
     base::TableModel rows;
     std::vector<std::size_t> savedRowCounts;
+    std::function<void()> onSave;  // runs as a save would pump messages
 };
 
 class FakeSessionWindow : public app::ISessionWindow {

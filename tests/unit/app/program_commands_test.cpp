@@ -23,7 +23,7 @@ protected:
 
 TEST_F(ProgramCommandsTest, ExitAsksAndOnNoDoesNothing) {
     dialogs.answers = {platform::msgbox::kNo};
-    EXPECT_FALSE(commands.Exit());
+    EXPECT_FALSE(commands.Exit([] { FAIL(); }));
     ASSERT_EQ(dialogs.messages.size(), 1u);
     EXPECT_EQ(dialogs.messages[0].text, "終了してもよろしいですか？");
     EXPECT_EQ(dialogs.messages[0].title, "Veskar_Lookout");
@@ -35,7 +35,9 @@ TEST_F(ProgramCommandsTest, ExitAsksAndOnNoDoesNothing) {
 TEST_F(ProgramCommandsTest, ExitWithLogflagSavesTheWholeRunIncludingTheStopRow) {
     cycle.StartMonitoring();
     dialogs.answers = {platform::msgbox::kYes};
-    EXPECT_TRUE(commands.Exit());
+    bool hidden = false;
+    EXPECT_TRUE(commands.Exit([&] { hidden = monitor.savedRowCounts.empty(); }));
+    EXPECT_TRUE(hidden);  // before the save
     EXPECT_EQ(monitor.savedRowCounts, std::vector<std::size_t>{3});  // banner, start, stop
     EXPECT_EQ(monitor.LastRow(), "[2005/06/22 09:05:03] 監視を停止しました。");
     EXPECT_FALSE(switches.timersOn);
@@ -43,7 +45,7 @@ TEST_F(ProgramCommandsTest, ExitWithLogflagSavesTheWholeRunIncludingTheStopRow) 
 
     program.settings.logflag = 0;
     dialogs.answers = {platform::msgbox::kYes};
-    EXPECT_TRUE(commands.Exit());
+    EXPECT_TRUE(commands.Exit([] {}));
     EXPECT_EQ(monitor.savedRowCounts.size(), 1u);  // nothing written without logflag
     EXPECT_EQ(tray.removals, 2);
 }
@@ -55,6 +57,16 @@ TEST_F(ProgramCommandsTest, EndOfTheWindowsSessionIsTheLastSavedRow) {
     program.settings.logflag = 0;
     commands.WindowsSessionEnding();
     EXPECT_EQ(monitor.savedRowCounts.size(), 1u);
+}
+
+// Windows asks again while the save of the first request pumps messages.
+TEST_F(ProgramCommandsTest, ASessionEndDuringItsOwnSaveAddsNoSecondRow) {
+    monitor.onSave = [&] {
+        monitor.onSave = nullptr;
+        commands.WindowsSessionEnding();
+    };
+    commands.WindowsSessionEnding();
+    EXPECT_EQ(monitor.savedRowCounts, std::vector<std::size_t>{2});
 }
 
 TEST_F(ProgramCommandsTest, ClearStartsTheMainMonitorAgainWithTheBanner) {

@@ -34,7 +34,12 @@ probe::MenuStatus Collect(HMENU menu, std::uint32_t depth, probe::MenuRequest& r
 extern "C" __declspec(dllexport) DWORD WINAPI LookoutReadMenu(void* parameter) {
     auto& request = *static_cast<probe::MenuRequest*>(parameter);
     request.count = 0;
-    HMENU bar = GetMenu(request.window);
+    // A pop-up menu on the screen is a window of its own that holds the menu it shows.
+    wchar_t className[16] = {};
+    GetClassNameW(request.window, className, 16);
+    HMENU bar = lstrcmpW(className, L"#32768") == 0
+                    ? reinterpret_cast<HMENU>(SendMessageW(request.window, MN_GETHMENU, 0, 0))
+                    : GetMenu(request.window);
     request.status = bar ? Collect(bar, 0, request) : probe::MenuStatus::kNoMenu;
     return 0;
 }

@@ -1,0 +1,39 @@
+#include "base/win32/modal_window.h"
+
+#include <algorithm>
+
+namespace base {
+
+POINT CentredPosition(HWND owner, int width, int height) {
+    RECT workArea{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &workArea, 0);
+    RECT ownerRect = workArea;
+    if (owner && IsWindowVisible(owner)) GetWindowRect(owner, &ownerRect);
+    const int x = std::clamp<int>(ownerRect.left + ((ownerRect.right - ownerRect.left) - width) / 2, workArea.left,
+                                  std::max<int>(workArea.left, workArea.right - width));
+    const int y = std::clamp<int>(ownerRect.top + ((ownerRect.bottom - ownerRect.top) - height) / 2, workArea.top,
+                                  std::max<int>(workArea.top, workArea.bottom - height));
+    return {x, y};
+}
+
+void RunModal(HWND window, HWND owner, const bool& closed) {
+    if (owner) EnableWindow(owner, FALSE);
+    ShowWindow(window, SW_SHOW);
+    MSG message;
+    while (!closed) {
+        const BOOL got = GetMessageW(&message, nullptr, 0, 0);
+        if (got == 0 || got == -1) {
+            PostQuitMessage(got == 0 ? static_cast<int>(message.wParam) : 0);
+            break;
+        }
+        if (!IsDialogMessageW(window, &message)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    }
+    if (owner) EnableWindow(owner, TRUE);
+    if (IsWindow(window)) DestroyWindow(window);
+    if (owner) SetForegroundWindow(owner);
+}
+
+}  // namespace base

@@ -1,0 +1,16 @@
+#pragma once
+// What every modal window of the program shares: where it stands and its own message loop.
+#include <windows.h>
+
+namespace base {
+
+// The top left corner of a window of this outer size centred over the owner (over the work
+// area when the owner is hidden), kept whole on the work area.
+POINT CentredPosition(HWND owner, int width, int height);
+
+// Shows the window with its owner disabled and dispatches messages until `closed` is set or
+// the program's message loop is asked to end (the request is passed on). Then enables the
+// owner, destroys the window and gives the owner the foreground back.
+void RunModal(HWND window, HWND owner, const bool& closed);
+
+}  // namespace base

@@ -1,0 +1,32 @@
+#pragma once
+// frmAbout, the about box: a modal window over the texts of AboutTexts. A click on the link
+// label opens the maker's web site; cmdOK closes the box.
+#include <windows.h>
+
+#include <functional>
+
+#include "base/win32/unique_resource.h"
+#include "base/win32/window.h"
+#include "mainwindow/about_box.h"
+
+namespace mainwindow {
+
+class FrmAbout : public base::Window {
+public:
+    FrmAbout(AboutTexts texts, std::function<void()> openWebSite);
+
+    // Shows the box over the owner and returns when it is closed.
+    void ShowModal(HWND owner);
+
+private:
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void CreateControls();
+
+    AboutTexts m_texts;
+    std::function<void()> m_openWebSite;
+    bool m_closed = false;
+    HWND m_link = nullptr;
+    base::UniqueFont m_linkFont;
+};
+
+}  // namespace mainwindow

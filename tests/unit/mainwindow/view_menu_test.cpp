@@ -1,0 +1,94 @@
+#include <gtest/gtest.h>
+
+#include "base/text_encoding.h"
+#include "mainwindow/about_box.h"
+#include "mainwindow/list_columns.h"
+#include "mainwindow/maker_web_site.h"
+#include "unit/mainwindow/main_window_fixture.h"
+
+namespace mainwindow {
+namespace {
+
+using enum MenuItem;
+
+TEST_F(MainWindowTest, GridLinesToggleWithTheCheckMark) {
+    EXPECT_EQ(model.TabListStyle(), 0x20u);
+    model.MenuClick(mnuGRID);
+    EXPECT_TRUE(model.MenuChecked(mnuGRID));
+    EXPECT_EQ(model.TabListStyle(), 0x21u);
+    model.MenuClick(mnuGRID);
+    EXPECT_FALSE(model.MenuChecked(mnuGRID));
+    EXPECT_EQ(model.TabListStyle(), 0x20u);
+    EXPECT_EQ(view.Count(Change::ListStyle), 2);
+}
+
+// The reset differs from the load-time widths in three columns only, and leaves lstvPc alone.
+TEST_F(MainWindowTest, ResetWidthsDifferFromTheLoadWidthsInThreeColumns) {
+    std::vector<std::string> differences;
+    for (const ColumnWidths& reset : ResetColumnWidths()) {
+        EXPECT_NE(reset.list, ListId::lstvPc);
+        const auto loaded = Columns(reset.list);
+        ASSERT_EQ(reset.twips.size(), loaded.size());
+        for (std::size_t i = 0; i < loaded.size(); ++i) {
+            if (reset.twips[i] == loaded[i].widthTwips) continue;
+            differences.push_back(std::string(loaded[i].caption) + " " +
+                                  std::to_string(reset.twips[i] - loaded[i].widthTwips));
+        }
+    }
+    EXPECT_EQ(differences, (std::vector<std::string>{"パス 100", "パス 50", "コマンド 50"}));
+    model.MenuClick(mnuITEM_HABA);
+    EXPECT_EQ(view.Count(Change::ColumnWidths), 1);
+}
+
+TEST_F(MainWindowTest, AlwaysOnTopWhileMinimisedOnlyChecksTheItem) {
+    model.SetMinimised(true);
+    model.MenuClick(mnuFRONT);
+    EXPECT_TRUE(model.MenuChecked(mnuFRONT));
+    EXPECT_FALSE(model.AlwaysOnTop());
+    model.SetMinimised(false);
+    model.MenuClick(mnuFRONT);
+    EXPECT_FALSE(model.MenuChecked(mnuFRONT));
+    EXPECT_FALSE(model.AlwaysOnTop());
+    model.MenuClick(mnuFRONT);
+    EXPECT_TRUE(model.AlwaysOnTop());
+}
+
+// A second save asked for while the first pumps messages (a session end, a full monitor) adds
+// no second file: the running save writes the rows added meanwhile.
+TEST_F(MainWindowTest, ASaveAskedForDuringASaveIsTheSameFile) {
+    model.AddMonitorRow("banner");
+    model.AddMonitorRow("row");
+    pump.onPump = [&] {
+        pump.onPump = nullptr;
+        model.AddMonitorRow("last");
+        model.SaveMainMonitor();
+    };
+    model.SaveMainMonitor();
+    EXPECT_EQ(base::AnsiToUtf8(files.Get("C:\\Lookout\\logs\\20050622-1.txt")), "banner\r\nrow\r\nlast\r\n");
+    EXPECT_FALSE(files.FileExists("C:\\Lookout\\logs\\20050622-2.txt"));
+}
+
+TEST(AboutBox, CaptionAndVersionLabel) {
+    const AboutTexts texts = MakeAboutTexts({1, 0, 12});
+    EXPECT_EQ(texts.caption, "Veskar_Lookout （ﾊﾞｰｼﾞｮﾝ情報）");
+    EXPECT_EQ(texts.versionLabel, "Veskar_Lookout Version.1.0.12");
+}
+
+struct FakeBrowser : platform::IBrowser {
+    bool Navigate(const std::string&) override { return works; }
+    bool works = true;
+};
+
+TEST(MakerWebSite, AFailingBrowserIsReportedInAMessageBox) {
+    FakeBrowser browser;
+    fakes::FakeDialogs dialogs;
+    OpenMakerWebSite(browser, dialogs);
+    EXPECT_TRUE(dialogs.messages.empty());
+    browser.works = false;
+    OpenMakerWebSite(browser, dialogs);
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_EQ(dialogs.messages[0].text, "WEB サイト表示 でエラーが発生しました。");
+}
+
+}  // namespace
+}  // namespace mainwindow
