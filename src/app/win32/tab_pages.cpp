@@ -5,7 +5,11 @@ namespace app {
 using mainwindow::ListId;
 
 TabPages::TabPages(mainwindow::MainWindowModel& model, SharedServices services)
-    : m_neighbourhood(services.dialogs, m_wnet, services.winsock, services.ipHelper, model.List(ListId::lstvPc)) {
+    : m_taskIcons(services.frmMain.ListHandle(ListId::lstvTask)),
+      m_processList(model, m_processes, m_taskIcons, services.dialogs),
+      m_processCommands(model, m_processes, {services.files, m_imageHelp, services.pump, services.dialogs}),
+      m_neighbourhood(services.dialogs, m_wnet, services.winsock, services.ipHelper, model.List(ListId::lstvPc)) {
+    model.SetTabPage(2, m_processList);
     model.SetTabPage(6, m_neighbourhood);
 }
 

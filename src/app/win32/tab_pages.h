@@ -6,8 +6,15 @@
 #include "mainwindow/main_window_model.h"
 #include "mainwindow/win32/frm_main.h"
 #include "network/network_neighbourhood.h"
+#include "processes/process_commands.h"
+#include "processes/process_list.h"
 #include "platform/win32/dialogs.h"
+#include "platform/win32/file_system.h"
+#include "platform/win32/icon_list.h"
+#include "platform/win32/image_help.h"
 #include "platform/win32/ip_helper.h"
+#include "platform/win32/message_pump.h"
+#include "platform/win32/processes.h"
 #include "platform/win32/winsock.h"
 #include "platform/win32/wnet.h"
 
@@ -16,6 +23,8 @@ namespace app {
 // The OS services the pages share with the rest of the program.
 struct SharedServices {
     platform::win32::Dialogs& dialogs;
+    platform::win32::FileSystem& files;
+    platform::win32::MessagePump& pump;
     platform::win32::IpHelper& ipHelper;
     platform::win32::Winsock& winsock;
     const mainwindow::FrmMain& frmMain;  // the list views
@@ -28,6 +37,11 @@ public:
     TabPages& operator=(const TabPages&) = delete;
 
 private:
+    platform::win32::Processes m_processes;
+    platform::win32::IconList m_taskIcons;
+    processes::ProcessListPage m_processList;
+    platform::win32::ImageHelp m_imageHelp;
+    processes::ProcessCommands m_processCommands;  // the lists' pop-up menu
     platform::win32::WNet m_wnet;
     network::NetworkNeighbourhoodPage m_neighbourhood;
 };

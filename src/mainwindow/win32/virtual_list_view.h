@@ -29,12 +29,14 @@ public:
     VirtualListView& operator=(const VirtualListView&) = delete;
 
     HWND Handle() const { return m_window.Get(); }
-    // Answers the list's request for a cell's text or icon; false for other notifications.
+    // Answers the list's request for a cell's text or icon and tells the model which row the
+    // user selected; false for other notifications.
     bool OnNotify(NMHDR& header);
     void SetColours(base::Colour back, base::Colour text);
 
 private:
     void FollowModel(bool appended);
+    void FollowSelection();
 
     base::UniqueHwnd m_window;
     base::TableModel& m_rows;
