@@ -5,7 +5,9 @@
 // platform::win32::IconList member, initialised with services.frmMain.ListHandle(its list).
 #include "mainwindow/main_window_model.h"
 #include "mainwindow/win32/frm_main.h"
+#include "network/connection_table.h"
 #include "network/network_neighbourhood.h"
+#include "system/startup_items.h"
 #include "processes/process_commands.h"
 #include "processes/process_list.h"
 #include "platform/win32/dialogs.h"
@@ -15,6 +17,7 @@
 #include "platform/win32/ip_helper.h"
 #include "platform/win32/message_pump.h"
 #include "platform/win32/processes.h"
+#include "platform/win32/registry.h"
 #include "platform/win32/winsock.h"
 #include "platform/win32/wnet.h"
 
@@ -43,6 +46,10 @@ private:
     platform::win32::ImageHelp m_imageHelp;
     processes::ProcessCommands m_processCommands;  // the lists' pop-up menu
     platform::win32::WNet m_wnet;
+    platform::win32::Registry m_registry;
+    platform::win32::IconList m_startupIcons;
+    system_items::StartupItemsPage m_startup;
+    network::ConnectionTablePage m_connections;
     network::NetworkNeighbourhoodPage m_neighbourhood;
 };
 
