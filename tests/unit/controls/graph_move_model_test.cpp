@@ -171,5 +171,15 @@ TEST(GraphMoveProperties, DefaultsAreNotStoredAndEveryOtherValueRoundTrips) {
     EXPECT_EQ(restored.Properties(), p);
 }
 
+TEST(GraphMoveProperties, InitPropertiesResetsTheGridRangeAndValues) {
+    GraphMoveModel graph = SmallGraph();
+    graph.setValue(7);
+    graph.InitProperties();  // what every new graph runs
+    EXPECT_EQ(graph.Values(), std::vector<float>{0.0f});
+    EXPECT_EQ(graph.Properties().GridStep, 2.0f);
+    EXPECT_EQ(graph.Properties().MaxValue, 100.0f);
+    EXPECT_EQ(graph.Properties().GridColor, kGrid);
+}
+
 }  // namespace
 }  // namespace controls

@@ -145,5 +145,12 @@ TEST_F(LogWriterTest, SaveAsProposesTheNextFileAndAppendsTxtCaseSensitively) {
     EXPECT_FALSE(files.Has("D:\\kept.txt.txt"));
 }
 
+TEST_F(LogWriterTest, TheProgramFolderIsReadAtEachSave) {
+    table.AddRow({"x"});
+    folder = "E:\\Other\\";
+    writer.SaveMainMonitor(table);
+    EXPECT_TRUE(files.Has("E:\\Other\\logs\\20050622-1.txt"));
+}
+
 }  // namespace
 }  // namespace logs

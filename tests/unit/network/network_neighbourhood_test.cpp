@@ -104,6 +104,13 @@ TEST_F(ListNetworkPcsTest, KeepsDomainsAtTheFirstLevelAndServersAtTheSecond) {
     ASSERT_EQ(net.opens.size(), 2u);  // neither the stray server nor the inner domain is opened
 }
 
+TEST_F(ListNetworkPcsTest, ReadsEveryBatchOfAnEnumeration) {
+    net.containers[kProvider].batches = {{Domain("A")}, {Domain("B")}};
+    net.containers["A"].batches = {{Server("\\\\PC01")}, {Server("\\\\PC02")}};
+    EXPECT_EQ(Run(), 2u);
+    EXPECT_EQ(lstvPc.Cell(1, 0), "PC02");
+}
+
 TEST_F(ListNetworkPcsTest, AFailedReadEndsThatLevelOnly) {
     net.containers[kProvider].batches = {{Domain("A")}};
     net.containers[kProvider].endResult = 1222;
