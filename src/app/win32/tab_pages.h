@@ -3,13 +3,23 @@
 // per tab, each registered once with the main window. A new tab adds its page here and one
 // registration line in the constructor. A tab whose rows show file icons owns a
 // platform::win32::IconList member, initialised with services.frmMain.ListHandle(its list).
+#include "app/program.h"
+#include "controls/demo_form.h"
 #include "mainwindow/main_window_model.h"
 #include "mainwindow/win32/frm_main.h"
 #include "network/network_neighbourhood.h"
 #include "platform/win32/dialogs.h"
+#include "platform/win32/file_system.h"
+#include "platform/win32/icon_list.h"
 #include "platform/win32/ip_helper.h"
+#include "platform/win32/message_pump.h"
+#include "platform/win32/native_handles.h"
+#include "platform/win32/program_settings.h"
 #include "platform/win32/winsock.h"
 #include "platform/win32/wnet.h"
+#include "processes/app_dictionary.h"
+#include "processes/applications_tab.h"
+#include "processes/appview_alert.h"
 
 namespace app {
 
@@ -19,6 +29,10 @@ struct SharedServices {
     platform::win32::IpHelper& ipHelper;
     platform::win32::Winsock& winsock;
     const mainwindow::FrmMain& frmMain;  // the list views
+    platform::win32::FileSystem& files;
+    platform::win32::MessagePump& pump;
+    const Program& program;
+    controls::DemoForm& frmDemo;  // raises the alerts
 };
 
 class TabPages {
@@ -28,8 +42,19 @@ public:
     TabPages& operator=(const TabPages&) = delete;
 
 private:
+    // "アプリケーションの登録(&A)": the allowed-applications editor.
+    void OpenAppEditor();
+
+    SharedServices m_services;
     platform::win32::WNet m_wnet;
     network::NetworkNeighbourhoodPage m_neighbourhood;
+    platform::win32::NativeHandles m_native;
+    platform::win32::ProgramSettings m_programSettings;
+    platform::win32::IconList m_applicationIcons;
+    processes::AppviewAlert m_appAlert;
+    processes::AppListFile m_appList;
+    processes::AppDictionary m_allowedApplications;
+    processes::ApplicationsTab m_applications;
 };
 
 }  // namespace app

@@ -66,4 +66,10 @@ void VirtualListView::SetColours(base::Colour back, base::Colour text) {
     InvalidateRect(Handle(), nullptr, TRUE);
 }
 
+std::optional<std::size_t> SelectedRow(HWND listView) {
+    const LRESULT row = SendMessageW(listView, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED);
+    if (row < 0) return std::nullopt;
+    return static_cast<std::size_t>(row);
+}
+
 }  // namespace mainwindow

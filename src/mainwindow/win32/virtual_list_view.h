@@ -6,6 +6,7 @@
 #include <windows.h>
 #include <commctrl.h>
 
+#include <optional>
 #include <span>
 #include <string>
 
@@ -41,6 +42,9 @@ private:
     std::size_t m_count = 0;
     std::wstring m_cellText;  // the text last handed out; the list reads it before asking again
 };
+
+// The first selected row of a list view, if any.
+std::optional<std::size_t> SelectedRow(HWND listView);
 
 // A colour of the program (0x00BBGGRR or a system colour) as the system draws it.
 COLORREF SystemColour(base::Colour colour);

@@ -86,6 +86,18 @@ void ListViewRows(const Options& options) {
     }
 }
 
+// A click on the row, as a user selects it.
+void ListViewSelect(const Options& options) {
+    if (options.arguments.size() != 1) throw std::invalid_argument("listview-select needs the row's index");
+    HWND listView = Control(options, WC_LISTVIEWW);
+    const int row = std::stoi(options.arguments[0]);
+    ClickInside(listView, ControlRect(listView, LVM_GETITEMRECT, row));  // LVIR_BOUNDS is 0
+    if (!WaitUntil(options.timeout, [&] {
+            return SendMessageW(listView, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED) == row;
+        }))
+        throw Failure("row " + options.arguments[0] + " did not become selected");
+}
+
 void ListViewCount(const Options& options) {
     PrintLine({std::to_string(SendMessageW(Control(options, WC_LISTVIEWW), LVM_GETITEMCOUNT, 0, 0))});
 }
@@ -213,6 +225,7 @@ const std::vector<Command>& ControlCommands() {
          ListViewColumns},
         {"listview-rows", "listview-rows           list-view rows: the texts of all cells", ListViewRows},
         {"listview-count", "listview-count          number of list-view rows", ListViewCount},
+        {"listview-select", "listview-select INDEX   click a list-view row (index from 0)", ListViewSelect},
         {"tabs", "tabs                    tabs: index, selected|-, caption", Tabs},
         {"select-tab", "select-tab INDEX|CAPTION  click a tab (index from 0, or caption) as a user does", SelectTab},
         {"status", "status                  status-bar panels: index, text", StatusPanels},
