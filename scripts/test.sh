@@ -73,5 +73,16 @@ BENCH_LIMIT=1.3 bash tests/bench/monitoring_cpu.sh "$root/windows-x64"
 bash tests/win/wine-run.sh "$root/windows-x64/tests/bench/lookout_applications_bench.exe"
 
 trap - ERR
+# Test code against product code: non-blank, non-comment lines of C++ and shell under tests/ (the
+# end-to-end driver and the benchmarks are tools and count apart) and under src/.
+code_lines() {
+    git ls-files -- "$@" | grep -E '\.(c|cc|cpp|cxx|h|hpp|sh)$' | grep -v -E '^tests/(e2e/driver|bench)/' |
+        xargs -r cat | grep -c -v -E '^\s*(//.*|# .*|#)?$'
+}
 echo
 echo "test.sh: PASSED: native unit tests, Windows x64 platform and end-to-end tests, Windows x86 build, ${#benchmarks[@]} benchmark program(s) in $((SECONDS - started)) s"
+src_lines=$(code_lines src || true)
+test_lines=$(code_lines tests || true)
+if [[ ${src_lines:-0} -gt 0 ]]; then
+    echo "test.sh: test code is $test_lines lines against $src_lines under src/ ($((100 * test_lines / src_lines)) %)"
+fi

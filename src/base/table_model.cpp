@@ -22,12 +22,14 @@ void TableModel::AddRow(std::vector<std::string> cells, int icon) {
 void TableModel::Clear() {
     if (m_rows.empty()) return;  // nothing for the view to redraw
     m_rows.clear();
+    m_selected.reset();
     Changed(false);
 }
 
 void TableModel::Replace(std::vector<Row> rows) {
     if (rows.empty() && m_rows.empty()) return;
     m_rows = std::move(rows);
+    m_selected.reset();
     Changed(false);
 }
 
@@ -35,6 +37,10 @@ void TableModel::SetIcon(std::size_t row, int icon) {
     if (row >= m_rows.size()) return;
     m_rows[row].icon = icon;
     Changed(false);
+}
+
+void TableModel::SetSelectedRow(std::optional<std::size_t> row) {
+    m_selected = row && *row < m_rows.size() ? row : std::nullopt;
 }
 
 void TableModel::Changed(bool appended) const {

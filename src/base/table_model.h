@@ -3,6 +3,7 @@
 // clears and rebuilds it; the view reads cells on demand, so row count costs nothing to show.
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,10 @@ public:
     void Replace(std::vector<Row> rows);
     void SetIcon(std::size_t row, int icon);
 
+    // The row the user selected in the view, if any; a rebuild or a clear selects nothing.
+    std::optional<std::size_t> SelectedRow() const { return m_selected; }
+    void SetSelectedRow(std::optional<std::size_t> row);
+
     // Called after every change; the view uses it to renew its item count.
     void SetChangeListener(ChangeListener listener) { m_listener = std::move(listener); }
 
@@ -36,6 +41,7 @@ private:
     void Changed(bool appended) const;
 
     std::vector<Row> m_rows;
+    std::optional<std::size_t> m_selected;
     ChangeListener m_listener;
 };
 

@@ -4,11 +4,13 @@
 
 namespace mainwindow {
 
+void AddFileOrStandByIcon(platform::IIconList& icons, const std::string& path) {
+    if (path == "SYSTEM" || !icons.AddFileIcon(path)) icons.AddStandByIcon();
+}
+
 void AddRowIcon(platform::IIconList& icons, const std::string& path, platform::IDialogs& dialogs,
                 const IconErrorTexts& texts) {
-    platform::TrapErrors(dialogs, texts.oneIcon, [&] {
-        if (path == "SYSTEM" || !icons.AddFileIcon(path)) icons.AddStandByIcon();
-    });
+    platform::TrapErrors(dialogs, texts.oneIcon, [&] { AddFileOrStandByIcon(icons, path); });
 }
 
 void LoadRowIcons(platform::IIconList& icons, const base::TableModel& list, std::size_t pathColumn,

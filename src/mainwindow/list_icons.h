@@ -16,8 +16,11 @@ struct IconErrorTexts {
     const char* oneIcon;   // the routine that adds one
 };
 
-// Adds the icon of one file: the shell's small icon, or the stand-by picture for "SYSTEM" and for
+// The rule for one file: the shell's small icon, or the stand-by picture for "SYSTEM" and for
 // files the shell has no icon list for.
+void AddFileOrStandByIcon(platform::IIconList& icons, const std::string& path);
+
+// The same rule inside the tab's own error trap.
 void AddRowIcon(platform::IIconList& icons, const std::string& path, platform::IDialogs& dialogs,
                 const IconErrorTexts& texts);
 

@@ -1,5 +1,5 @@
 #pragma once
-// Message boxes and the common dialogs, behind one seam so tests can answer them.
+// Message boxes, the common dialogs and the clipboard, behind one seam so tests can answer them.
 #include <optional>
 #include <string>
 
@@ -15,6 +15,7 @@ constexpr unsigned kCritical = 16;
 constexpr unsigned kQuestion = 32;
 constexpr unsigned kExclamation = 48;
 constexpr unsigned kInformation = 64;
+constexpr unsigned kDefaultButton2 = 256;
 
 constexpr int kOk = 1;
 constexpr int kCancel = 2;
@@ -37,6 +38,8 @@ public:
     virtual std::optional<std::string> SaveFile(const SaveFileRequest& request) = 0;
     // The colour dialog with its custom-colour part open, starting from black.
     virtual std::optional<base::Colour> ChooseColour() = 0;
+    // Replaces the clipboard's text; its other contents stay.
+    virtual void SetClipboardText(const std::string& text) = 0;
 };
 
 }  // namespace platform

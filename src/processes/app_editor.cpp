@@ -17,7 +17,8 @@ void AppEditor::Add() {
     if (!name.empty()) m_rows.AddRow({name});
 }
 
-void AppEditor::Delete(std::optional<std::size_t> selected) {
+void AppEditor::Delete() {
+    const std::optional<std::size_t> selected = m_rows.SelectedRow();
     if (!selected || *selected >= m_rows.RowCount()) return;
     std::vector<base::TableModel::Row> rows;
     for (std::size_t i = 0; i < m_rows.RowCount(); ++i) {

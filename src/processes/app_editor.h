@@ -2,9 +2,6 @@
 // frmApp, "アプリケーション管理", without a screen: the allowed names of app.ini in lstvAppEdit,
 // added through an input box, removed by selection, and written back whole on "Ok". Deleting a
 // name here does not take it from the running program's dictionary, which only grows.
-#include <cstddef>
-#include <optional>
-
 #include "base/table_model.h"
 #include "platform/dialogs.h"
 #include "platform/input_box.h"
@@ -27,7 +24,7 @@ public:
     // cmdAdd: asks for a name and appends a row unless the answer is empty.
     void Add();
     // cmdDel: removes the selected row, if any.
-    void Delete(std::optional<std::size_t> selected);
+    void Delete();
     // cmdOK: rewrites the file from the rows and reloads the dictionary; true when the dialog
     // closes (false only when the file cannot be written).
     bool Ok();

@@ -13,6 +13,7 @@ public:
     int ShowMessage(const std::string& text, const std::string& title, unsigned style) override;
     std::optional<std::string> SaveFile(const platform::SaveFileRequest&) override { return std::nullopt; }
     std::optional<base::Colour> ChooseColour() override { return std::nullopt; }
+    void SetClipboardText(const std::string&) override {}
 
     // Shows what was kept so far, in order, and forgets it.
     void ShowOn(platform::IDialogs& dialogs);

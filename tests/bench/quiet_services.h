@@ -25,6 +25,7 @@ public:
     int ShowMessage(const std::string&, const std::string&, unsigned) override { return platform::msgbox::kOk; }
     std::optional<std::string> SaveFile(const platform::SaveFileRequest&) override { return std::nullopt; }
     std::optional<base::Colour> ChooseColour() override { return std::nullopt; }
+    void SetClipboardText(const std::string&) override {}
 };
 
 }  // namespace bench

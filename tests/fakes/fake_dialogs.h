@@ -31,6 +31,7 @@ public:
         ++colourRequests;
         return colourAnswer;
     }
+    void SetClipboardText(const std::string& text) override { clipboard = text; }
 
     std::vector<AskedMessage> messages;
     std::deque<int> answers;  // answers to the next message boxes; OK when empty
@@ -38,6 +39,7 @@ public:
     std::optional<std::string> saveAnswer;
     int colourRequests = 0;
     std::optional<base::Colour> colourAnswer;
+    std::string clipboard;
 };
 
 }  // namespace fakes

@@ -1,5 +1,6 @@
 #pragma once
-// IP Helper over tables: the interfaces, and the ARP answers by destination address.
+// IP Helper over tables: the interfaces, the ARP answers by destination address, the TCP and
+// UDP tables.
 #include <map>
 #include <vector>
 
@@ -24,6 +25,9 @@ public:
         return found == arpReplies.end() ? unknownReply : found->second;
     }
 
+    std::optional<std::vector<platform::TcpTableRow>> TcpTable() override { return tcpRows; }
+    std::vector<platform::UdpTableRow> UdpTable() override { return udpRows; }
+
     // An answer with the given bytes, the length being their number.
     void AddArpReply(std::uint32_t destination, const std::vector<std::uint8_t>& mac) {
         platform::ArpReply reply;
@@ -37,6 +41,8 @@ public:
     std::map<std::uint32_t, platform::ArpReply> arpReplies;
     platform::ArpReply unknownReply{67, {}, 0};  // ERROR_BAD_NET_NAME: nobody answered
     std::vector<std::uint32_t> arpRequests;
+    std::optional<std::vector<platform::TcpTableRow>> tcpRows = std::vector<platform::TcpTableRow>{};  // none: 50
+    std::vector<platform::UdpTableRow> udpRows;
 };
 
 }  // namespace fakes

@@ -7,12 +7,19 @@
 #include "controls/demo_form.h"
 #include "mainwindow/main_window_model.h"
 #include "mainwindow/win32/frm_main.h"
+#include "network/connection_table.h"
 #include "network/network_neighbourhood.h"
+#include "system/startup_items.h"
+#include "processes/process_commands.h"
+#include "processes/process_list.h"
 #include "platform/win32/dialogs.h"
 #include "platform/win32/file_system.h"
 #include "platform/win32/icon_list.h"
+#include "platform/win32/image_help.h"
 #include "platform/win32/ip_helper.h"
 #include "platform/win32/message_pump.h"
+#include "platform/win32/processes.h"
+#include "platform/win32/registry.h"
 #include "platform/win32/native_handles.h"
 #include "platform/win32/program_settings.h"
 #include "platform/win32/winsock.h"
@@ -26,11 +33,11 @@ namespace app {
 // The OS services the pages share with the rest of the program.
 struct SharedServices {
     platform::win32::Dialogs& dialogs;
+    platform::win32::FileSystem& files;
+    platform::win32::MessagePump& pump;
     platform::win32::IpHelper& ipHelper;
     platform::win32::Winsock& winsock;
     const mainwindow::FrmMain& frmMain;  // the list views
-    platform::win32::FileSystem& files;
-    platform::win32::MessagePump& pump;
     const Program& program;
     controls::DemoForm& frmDemo;  // raises the alerts
 };
@@ -45,8 +52,16 @@ private:
     // "アプリケーションの登録(&A)": the allowed-applications editor.
     void OpenAppEditor();
 
-    SharedServices m_services;
+    platform::win32::Processes m_processes;
+    platform::win32::IconList m_taskIcons;
+    processes::ProcessListPage m_processList;
+    platform::win32::ImageHelp m_imageHelp;
+    processes::ProcessCommands m_processCommands;  // the lists' pop-up menu
     platform::win32::WNet m_wnet;
+    platform::win32::Registry m_registry;
+    platform::win32::IconList m_startupIcons;
+    system_items::StartupItemsPage m_startup;
+    network::ConnectionTablePage m_connections;
     network::NetworkNeighbourhoodPage m_neighbourhood;
     platform::win32::NativeHandles m_native;
     platform::win32::ProgramSettings m_programSettings;
@@ -55,6 +70,7 @@ private:
     processes::AppListFile m_appList;
     processes::AppDictionary m_allowedApplications;
     processes::ApplicationsTab m_applications;
+    SharedServices m_services;
 };
 
 }  // namespace app

@@ -327,10 +327,23 @@ bool FrmMain::OnNotify(NMHDR& header) {
         return true;
     }
     if (m_toolbar->OnNotify(header)) return true;
+    if (header.code == NM_RCLICK &&
+        (header.hwndFrom == ListHandle(ListId::lstvTask) || header.hwndFrom == ListHandle(ListId::lstvProcess))) {
+        ShowListPopup(header.hwndFrom, reinterpret_cast<const NMITEMACTIVATE&>(header).ptAction);
+        return true;
+    }
     for (const auto& list : m_lists) {
         if (list->OnNotify(header)) return true;
     }
     return false;
+}
+
+// The right button's release on a list: the pop-up menu where it was released, its command
+// coming back as WM_COMMAND.
+void FrmMain::ShowListPopup(HWND list, POINT at) {
+    ClientToScreen(list, &at);
+    TrackPopupMenu(m_listPopup.Get(), TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON, at.x, at.y, 0, Handle(),
+                   nullptr);
 }
 
 // A click on the tab already selected changes no selection, so the tab control reports

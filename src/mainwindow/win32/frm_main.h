@@ -86,6 +86,7 @@ private:
     void ApplyTimer(int index);
     void OnCommand(int id, int code);
     bool OnNotify(NMHDR& header);
+    void ShowListPopup(HWND list, POINT at);
     static LRESULT CALLBACK TabStripProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                               UINT_PTR id, DWORD_PTR self);
 

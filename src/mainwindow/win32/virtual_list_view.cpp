@@ -38,16 +38,32 @@ void VirtualListView::FollowModel(bool appended) {
     const std::size_t count = m_rows.RowCount();
     if (count == m_count) {
         InvalidateRect(Handle(), nullptr, FALSE);  // a cell or an icon changed
-        return;
+    } else {
+        // Rows added at the end leave what is drawn valid; a rebuild redraws everything.
+        const LPARAM flags = appended ? LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL : 0;
+        m_count = count;
+        SendMessageW(Handle(), LVM_SETITEMCOUNT, static_cast<WPARAM>(count), flags);
     }
-    // Rows added at the end leave what is drawn valid; a rebuild redraws everything.
-    const LPARAM flags = appended ? LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL : 0;
-    m_count = count;
-    SendMessageW(Handle(), LVM_SETITEMCOUNT, static_cast<WPARAM>(count), flags);
+    // A rebuilt list has no selected row.
+    if (!appended && !m_rows.SelectedRow() && SendMessageW(Handle(), LVM_GETSELECTEDCOUNT, 0, 0) > 0) {
+        LVITEMW none{};
+        none.stateMask = LVIS_SELECTED;
+        SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&none));
+    }
+}
+
+void VirtualListView::FollowSelection() {
+    const auto selected = static_cast<int>(SendMessageW(Handle(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+    m_rows.SetSelectedRow(selected >= 0 ? std::optional<std::size_t>(static_cast<std::size_t>(selected)) : std::nullopt);
 }
 
 bool VirtualListView::OnNotify(NMHDR& header) {
-    if (header.hwndFrom != Handle() || header.code != LVN_GETDISPINFOW) return false;
+    if (header.hwndFrom != Handle()) return false;
+    if (header.code == LVN_ITEMCHANGED || header.code == LVN_ODSTATECHANGED) {
+        FollowSelection();
+        return true;
+    }
+    if (header.code != LVN_GETDISPINFOW) return false;
     LVITEMW& item = reinterpret_cast<NMLVDISPINFOW&>(header).item;
     const auto row = static_cast<std::size_t>(item.iItem);
     if (item.mask & LVIF_TEXT) {
@@ -64,12 +80,6 @@ void VirtualListView::SetColours(base::Colour back, base::Colour text) {
     SendMessageW(Handle(), LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(backColour));
     SendMessageW(Handle(), LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(SystemColour(text)));
     InvalidateRect(Handle(), nullptr, TRUE);
-}
-
-std::optional<std::size_t> SelectedRow(HWND listView) {
-    const LRESULT row = SendMessageW(listView, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED);
-    if (row < 0) return std::nullopt;
-    return static_cast<std::size_t>(row);
 }
 
 }  // namespace mainwindow

@@ -6,7 +6,6 @@
 #include <windows.h>
 #include <commctrl.h>
 
-#include <optional>
 #include <span>
 #include <string>
 
@@ -30,21 +29,20 @@ public:
     VirtualListView& operator=(const VirtualListView&) = delete;
 
     HWND Handle() const { return m_window.Get(); }
-    // Answers the list's request for a cell's text or icon; false for other notifications.
+    // Answers the list's request for a cell's text or icon and tells the model which row the
+    // user selected; false for other notifications.
     bool OnNotify(NMHDR& header);
     void SetColours(base::Colour back, base::Colour text);
 
 private:
     void FollowModel(bool appended);
+    void FollowSelection();
 
     base::UniqueHwnd m_window;
     base::TableModel& m_rows;
     std::size_t m_count = 0;
     std::wstring m_cellText;  // the text last handed out; the list reads it before asking again
 };
-
-// The first selected row of a list view, if any.
-std::optional<std::size_t> SelectedRow(HWND listView);
 
 // A colour of the program (0x00BBGGRR or a system colour) as the system draws it.
 COLORREF SystemColour(base::Colour colour);

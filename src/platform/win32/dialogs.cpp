@@ -2,8 +2,10 @@
 
 #include <commdlg.h>
 
+#include <cstring>
 #include <vector>
 
+#include "base/text_encoding.h"
 #include "base/win32/wide.h"
 
 namespace platform::win32 {
@@ -17,6 +19,26 @@ std::wstring FilterList(const std::string& filter) {
     }
     list.push_back(L'\0');
     return list;
+}
+
+// A copy of the text in movable global memory, as the clipboard takes it over.
+template <typename Char>
+HGLOBAL GlobalText(const std::basic_string<Char>& text) {
+    const std::size_t bytes = (text.size() + 1) * sizeof(Char);
+    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
+    if (!memory) return nullptr;
+    if (void* target = GlobalLock(memory)) {
+        std::memcpy(target, text.c_str(), bytes);
+        GlobalUnlock(memory);
+        return memory;
+    }
+    GlobalFree(memory);
+    return nullptr;
+}
+
+void SetClipboardFormat(UINT format, HGLOBAL memory) {
+    // The clipboard owns the memory once it took it.
+    if (memory && !SetClipboardData(format, memory)) GlobalFree(memory);
 }
 
 }  // namespace
@@ -55,6 +77,14 @@ std::optional<base::Colour> Dialogs::ChooseColour() {
     cc.Flags = CC_FULLOPEN;
     if (!ChooseColorW(&cc)) return std::nullopt;
     return static_cast<base::Colour>(cc.rgbResult);
+}
+
+void Dialogs::SetClipboardText(const std::string& text) {
+    // Not emptied first: only the text formats are replaced.
+    if (!OpenClipboard(Owner())) return;
+    SetClipboardFormat(CF_UNICODETEXT, GlobalText(base::Widen(text)));
+    SetClipboardFormat(CF_TEXT, GlobalText(base::Utf8ToAnsi(text)));
+    CloseClipboard();
 }
 
 }  // namespace platform::win32

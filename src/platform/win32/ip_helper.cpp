@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "base/text_encoding.h"
+#include "platform/win32/table_buffer.h"
 
 namespace platform::win32 {
 namespace {
@@ -21,19 +22,19 @@ InterfaceRow Row(const MIB_IFROW& row) {
     return {row.dwIndex, base::AnsiToUtf8(text)};
 }
 
+std::array<std::uint8_t, 4> Bytes(DWORD field) {
+    std::array<std::uint8_t, 4> bytes;
+    std::memcpy(bytes.data(), &field, bytes.size());
+    return bytes;
+}
+
 }  // namespace
 
 std::vector<InterfaceRow> IpHelper::InterfaceTable() {
-    // Ask for the size, then fill; an interface that appears in between makes the buffer too
-    // small again, so ask until it fits.
-    ULONG size = 0;
-    std::vector<std::uint64_t> buffer;  // 8-byte units keep the table aligned
-    DWORD result = GetIfTable(nullptr, &size, TRUE);
-    while (result == ERROR_INSUFFICIENT_BUFFER) {
-        buffer.assign(size / sizeof(std::uint64_t) + 1, 0);
-        size = static_cast<ULONG>(buffer.size() * sizeof(std::uint64_t));
-        result = GetIfTable(reinterpret_cast<MIB_IFTABLE*>(buffer.data()), &size, TRUE);
-    }
+    std::vector<std::uint64_t> buffer;
+    const DWORD result = ReadTable(buffer, [](void* table, ULONG* size) {
+        return GetIfTable(static_cast<MIB_IFTABLE*>(table), size, TRUE);
+    });
     std::vector<InterfaceRow> rows;
     if (result != NO_ERROR || buffer.empty()) return rows;
     const auto* table = reinterpret_cast<const MIB_IFTABLE*>(buffer.data());
@@ -56,6 +57,39 @@ ArpReply IpHelper::SendArp(std::uint32_t destination) {
     std::memcpy(reply.address.data(), buffer, sizeof buffer);
     reply.length = length;
     return reply;
+}
+
+std::optional<std::vector<TcpTableRow>> IpHelper::TcpTable() {
+    std::vector<std::uint64_t> buffer;
+    const DWORD result = ReadTable(buffer, [](void* table, ULONG* size) {
+        return GetTcpTable(static_cast<MIB_TCPTABLE*>(table), size, FALSE);
+    });
+    if (result == ERROR_NOT_SUPPORTED && buffer.empty()) return std::nullopt;
+    std::vector<TcpTableRow> rows;
+    if (result != NO_ERROR || buffer.empty()) return rows;
+    const auto* table = reinterpret_cast<const MIB_TCPTABLE*>(buffer.data());
+    rows.reserve(table->dwNumEntries);
+    for (DWORD i = 0; i < table->dwNumEntries; ++i) {
+        const MIB_TCPROW& row = table->table[i];
+        rows.push_back({row.dwState, Bytes(row.dwLocalAddr), Bytes(row.dwLocalPort), Bytes(row.dwRemoteAddr),
+                        Bytes(row.dwRemotePort)});
+    }
+    return rows;
+}
+
+std::vector<UdpTableRow> IpHelper::UdpTable() {
+    std::vector<std::uint64_t> buffer;
+    const DWORD result = ReadTable(buffer, [](void* table, ULONG* size) {
+        return GetUdpTable(static_cast<MIB_UDPTABLE*>(table), size, FALSE);
+    });
+    std::vector<UdpTableRow> rows;
+    if (result != NO_ERROR || buffer.empty()) return rows;
+    const auto* table = reinterpret_cast<const MIB_UDPTABLE*>(buffer.data());
+    rows.reserve(table->dwNumEntries);
+    for (DWORD i = 0; i < table->dwNumEntries; ++i) {
+        rows.push_back({Bytes(table->table[i].dwLocalAddr), Bytes(table->table[i].dwLocalPort)});
+    }
+    return rows;
 }
 
 }  // namespace platform::win32

@@ -69,7 +69,7 @@ LRESULT FrmApp::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_COMMAND:
             switch (LOWORD(wParam)) {
                 case kAddId: m_editor.Add(); return 0;
-                case kDeleteId: m_editor.Delete(mainwindow::SelectedRow(m_list->Handle())); return 0;
+                case kDeleteId: m_editor.Delete(); return 0;
                 case IDOK:
                     if (m_editor.Ok()) m_closed = true;
                     return 0;

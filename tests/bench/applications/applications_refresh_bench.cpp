@@ -42,6 +42,7 @@ struct PrintedDialogs : platform::IDialogs {
     }
     std::optional<std::string> SaveFile(const platform::SaveFileRequest&) override { return std::nullopt; }
     std::optional<base::Colour> ChooseColour() override { return std::nullopt; }
+    void SetClipboardText(const std::string&) override {}
 };
 struct NoIcons : platform::IIconList {
     void Clear() override {}

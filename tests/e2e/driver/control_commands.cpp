@@ -29,9 +29,10 @@ RECT ControlRect(HWND control, UINT message, WPARAM part) {
 // A left click in the middle of rect, as the control itself receives a user's click: its own code
 // then runs and notifies the program. Posted, so a program that opens a modal window on the click
 // never blocks the driver.
-void ClickInside(HWND control, const RECT& rect) {
+void ClickInside(HWND control, const RECT& rect, bool right = false) {
     const LPARAM point = MAKELPARAM((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
-    if (!PostMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, point) || !PostMessageW(control, WM_LBUTTONUP, 0, point))
+    const UINT down = right ? WM_RBUTTONDOWN : WM_LBUTTONDOWN;
+    if (!PostMessageW(control, down, right ? MK_RBUTTON : MK_LBUTTON, point) || !PostMessageW(control, down + 1, 0, point))
         throw Failure("cannot post the click");
 }
 
@@ -86,15 +87,18 @@ void ListViewRows(const Options& options) {
     }
 }
 
-// A click on the row, as a user selects it.
-void ListViewSelect(const Options& options) {
-    if (options.arguments.size() != 1) throw std::invalid_argument("listview-select needs the row's index");
+// A click on a row's label; a left click waits until the row is selected, a right click returns
+// at once (the program may be showing its pop-up menu).
+void ClickRow(const Options& options, bool right) {
+    if (options.arguments.size() != 1) throw std::invalid_argument("the row's index (from 0) is needed");
+    const int row = ParseNumber(options.arguments[0], "the row");
     HWND listView = Control(options, WC_LISTVIEWW);
-    const int row = std::stoi(options.arguments[0]);
-    ClickInside(listView, ControlRect(listView, LVM_GETITEMRECT, row));  // LVIR_BOUNDS is 0
-    if (!WaitUntil(options.timeout, [&] {
-            return SendMessageW(listView, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED) == row;
-        }))
+    SendMessageW(listView, LVM_ENSUREVISIBLE, row, FALSE);
+    RemoteBuffer buffer(listView, sizeof(RECT));
+    buffer.Put(0, RECT{LVIR_LABEL, 0, 0, 0});
+    if (!SendMessageW(listView, LVM_GETITEMRECT, row, buffer.Param())) throw Failure("there is no row " + options.arguments[0]);
+    ClickInside(listView, buffer.Get<RECT>(0), right);
+    if (!right && !WaitUntil(options.timeout, [&] { return SendMessageW(listView, LVM_GETITEMSTATE, row, LVIS_SELECTED) != 0; }))
         throw Failure("row " + options.arguments[0] + " did not become selected");
 }
 
@@ -225,7 +229,10 @@ const std::vector<Command>& ControlCommands() {
          ListViewColumns},
         {"listview-rows", "listview-rows           list-view rows: the texts of all cells", ListViewRows},
         {"listview-count", "listview-count          number of list-view rows", ListViewCount},
-        {"listview-select", "listview-select INDEX   click a list-view row (index from 0)", ListViewSelect},
+        {"listview-click", "listview-click ROW      left-click a row (from 0) and wait until it is selected",
+         [](const Options& o) { ClickRow(o, false); }},
+        {"listview-rclick", "listview-rclick ROW     right-click a row (from 0), as for a context menu",
+         [](const Options& o) { ClickRow(o, true); }},
         {"tabs", "tabs                    tabs: index, selected|-, caption", Tabs},
         {"select-tab", "select-tab INDEX|CAPTION  click a tab (index from 0, or caption) as a user does", SelectTab},
         {"status", "status                  status-bar panels: index, text", StatusPanels},

@@ -76,6 +76,19 @@ void SetText(const Options& options) {
         throw Failure("the edit did not take the text");
 }
 
+void PrintClipboard(const Options&) {
+    if (!OpenClipboard(nullptr)) throw Failure("cannot open the clipboard");
+    std::string text;
+    if (HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
+        if (const auto* chars = static_cast<const wchar_t*>(GlobalLock(data))) {
+            text = base::Narrow(chars);
+            GlobalUnlock(data);
+        }
+    }
+    CloseClipboard();
+    PrintLine({text});
+}
+
 }  // namespace
 
 const std::vector<Command>& DialogCommands() {
@@ -87,6 +100,7 @@ const std::vector<Command>& DialogCommands() {
         {"click", "click                   click a button (--caption, --id or --nth)", ClickButton},
         {"check", "check 1|0               tick or clear a check box by clicking it (--caption or --id)", SetCheck},
         {"set-text", "set-text TEXT           set the text of an edit (--id or --nth)", SetText},
+        {"clipboard", "clipboard               the clipboard's text", PrintClipboard},
     };
     return commands;
 }

@@ -77,6 +77,20 @@ void InvokeMenuItem(const Options& options) {
                                                     : "\"" + Joined(options.arguments) + "\""));
 }
 
+// A pop-up menu is a top-level window of the class #32768 while it is open; its menu loop reads
+// the characters posted to its thread, so an item's access key chooses it as typed.
+void ChoosePopupItem(const Options& options) {
+    if (options.arguments.size() != 1 || options.arguments[0].size() != 1)
+        throw std::invalid_argument("popup-choose needs the item's access key (one letter)");
+    Options target = options;
+    target.windowClass = "#32768";
+    target.mustBeVisible = true;
+    HWND popup = WaitForTopLevelWindow(target);
+    if (!PostMessageW(popup, WM_CHAR, static_cast<WPARAM>(options.arguments[0][0]), 0)) throw Failure("cannot post the key");
+    if (!WaitUntil(options.timeout, [&] { return !IsWindowVisible(popup); }))
+        throw Failure("the pop-up menu stayed open after \"" + options.arguments[0] + "\"");
+}
+
 }  // namespace
 
 const std::vector<Command>& MenuCommands() {
@@ -84,6 +98,8 @@ const std::vector<Command>& MenuCommands() {
         {"menu", "menu                    menu bar tree: id (- for popups), state, captions joined by \" > \"",
          PrintMenu},
         {"menu-invoke", "menu-invoke CAPTION...  choose the item at that path (or --item-id N)", InvokeMenuItem},
+        {"popup-choose", "popup-choose KEY        choose the item of the open pop-up menu (of --process) by its access key",
+         ChoosePopupItem},
     };
     return commands;
 }

@@ -31,7 +31,7 @@ for name in notepad.exe calc.exe winmine.exe; do
     drive wait-gone --title "アプリケーションの追加" >/dev/null
 done
 assert_eq $'notepad.exe\ncalc.exe\nwinmine.exe' "$(drive listview-rows "${editor[@]}")" "the names added"
-drive listview-select "${editor[@]}" 1 >/dev/null
+drive listview-click "${editor[@]}" 1 >/dev/null
 drive click "${editor[@]}" --caption "削除(&D)" >/dev/null
 assert_eq $'notepad.exe\nwinmine.exe' "$(drive listview-rows "${editor[@]}")" "the selected name deleted"
 e2e_screenshot editor >/dev/null

@@ -68,8 +68,9 @@ TEST_F(AppListTest, TheEditorRewritesTheFileAndTheDictionaryOnlyGrows) {
     editor.Add();
     input.answer = "";
     editor.Add();
-    editor.Delete(0);
-    editor.Delete(std::nullopt);
+    editor.Delete();
+    editor.Rows().SetSelectedRow(0);
+    editor.Delete();
     EXPECT_EQ(input.asked[0], "許可するアプリケーションを入力してください。|アプリケーションの追加");
     EXPECT_TRUE(editor.Ok());
     EXPECT_EQ(files.Get(kDefault), "b.exe,Ok\r\nc.exe,Ok\r\n");
