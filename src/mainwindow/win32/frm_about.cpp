@@ -34,15 +34,9 @@ FrmAbout::FrmAbout(AboutTexts texts, std::function<void()> openWebSite)
 
 void FrmAbout::ShowModal(HWND owner) {
     RegisterWindowClass(kClassName);
-    const DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU;
-    const DWORD exStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
-    RECT frame{0, 0, S(kWidth), S(kHeight)};
-    AdjustWindowRectEx(&frame, style, FALSE, exStyle);
-    const int width = frame.right - frame.left;
-    const int height = frame.bottom - frame.top;
-    const POINT at = base::CentredPosition(owner, width, height);
-    CreateWindowFor(exStyle, kClassName, base::Widen(m_texts.caption).c_str(), style, at.x, at.y, width, height,
-                    owner);
+    const RECT frame = base::ModalWindowRect(owner, S(kWidth), S(kHeight));
+    CreateWindowFor(base::kModalExStyle, kClassName, base::Widen(m_texts.caption).c_str(), base::kModalStyle,
+                    frame.left, frame.top, frame.right - frame.left, frame.bottom - frame.top, owner);
     CreateControls();
     m_closed = false;
     base::RunModal(Handle(), owner, m_closed);
