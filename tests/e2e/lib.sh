@@ -217,23 +217,12 @@ E2E_MANIFEST=${E2E_PROCESS%.*}.exe.MANIFEST
 # ---------------------------------------------------------------------------------------------
 # Driver
 
-# Runs lookout_driver with the arguments and prints its output; the scenario fails with the
-# driver's reason when the driver fails. Capture with out=$(drive ...) (not `local out=$(...)`,
-# which would hide the failure).
-drive() {
-    local status=0
-    wine "$E2E_DRIVER" "$@" 2>"$E2E_WORK/driver.err" || status=$?
-    if [[ $status -ne 0 ]]; then
-        fail "lookout_driver $* -> exit $status: $(cat "$E2E_WORK/driver.err")"
-    fi
-}
+# Runs lookout_driver with the arguments, prints its output and returns its exit status.
+drive_status() { wine "$E2E_DRIVER" "$@" 2>"$E2E_WORK/driver.err"; }
 
-# Like drive, but returns the driver's exit status instead of failing.
-drive_status() {
-    local status=0
-    wine "$E2E_DRIVER" "$@" 2>"$E2E_WORK/driver.err" || status=$?
-    return "$status"
-}
+# Like drive_status, but the scenario fails with the driver's reason when the driver fails.
+# Capture with out=$(drive ...) (not `local out=$(...)`, which would hide the failure).
+drive() { drive_status "$@" || fail "lookout_driver $* -> exit $?: $(cat "$E2E_WORK/driver.err")"; }
 
 # Writes a screenshot of the whole virtual screen to WORK_DIR/NAME.png and prints its path.
 e2e_screenshot() {
