@@ -1,5 +1,5 @@
-// The registry and IP Helper tables as the startup and NETSTAT tabs read them, against values
-// and sockets the tests make themselves.
+// The registry, the IP Helper tables, the Startup folder and setting.ini's sections as the startup
+// and NETSTAT tabs and the tool menu use them, against values, sockets and files the tests make.
 #include <winsock2.h>
 #include <windows.h>
 
@@ -7,7 +7,12 @@
 
 #include <algorithm>
 
+#include "base/win32/wide.h"
 #include "network/connection_table.h"
+#include "network/machine_panel.h"
+#include "platform/win32/profile.h"
+#include "platform/win32/startup_folder.h"
+#include "system/startup_registration.h"
 #include "platform/win32/ip_helper.h"
 #include "platform/win32/registry.h"
 #include "system/registry_reader.h"
@@ -76,6 +81,35 @@ TEST(TcpTable, ListsALoopbackListenerWithItsPortAsShown) {
     EXPECT_EQ(network::TcpStateText(found->state), "LISTEN");
     closesocket(listener);
     WSACleanup();
+}
+
+}  // namespace
+
+namespace {
+
+TEST(StartupFolder, SavesAndReplacesAShortcutThere) {
+    platform::win32::StartupFolder startup;
+    const auto folder = startup.Path();
+    ASSERT_TRUE(folder);
+    const std::string file = *folder + "\\" + system_items::ShortcutName("platform_test");
+    ASSERT_TRUE(startup.SaveShortcut(file, "C:\\windows\\notepad.exe"));
+    ASSERT_TRUE(startup.SaveShortcut(file, "C:\\windows\\regedit.exe"));
+    const std::wstring wide = base::Widen(file);
+    EXPECT_NE(GetFileAttributesW(wide.c_str()), INVALID_FILE_ATTRIBUTES);
+    EXPECT_TRUE(DeleteFileW(wide.c_str()));
+}
+
+// The echo address lives in a section of its own because the settings writer replaces "main".
+TEST(Profile, ReplacingOneSectionKeepsTheOthers) {
+    wchar_t folder[MAX_PATH];
+    ASSERT_NE(GetTempPathW(MAX_PATH, folder), 0u);
+    const std::string file = base::Narrow(folder) + "lookout_sections.ini";
+    platform::win32::Profile profile;
+    ASSERT_TRUE(profile.WriteSection(file, "main", std::string("time=10\0", 8)));
+    ASSERT_TRUE(profile.WriteSection(file, "utility", std::string("echo_url=http://127.0.0.1:1/\0", 29)));
+    ASSERT_TRUE(profile.WriteSection(file, "main", std::string("time=20\0", 8)));
+    EXPECT_EQ(network::EchoAddress(profile, file), "http://127.0.0.1:1/");
+    DeleteFileW(base::Widen(file).c_str());
 }
 
 }  // namespace

@@ -6,7 +6,7 @@ e2e_begin
 
 # Two loopback listeners on the Linux side (Wine lists host sockets); they end by themselves.
 ready=$E2E_WORK/listeners.ready
-python3 - "$ready" "$E2E_TIMEOUT" <<'PY' &
+python3 - "$ready" "$E2E_TIMEOUT" >"$E2E_WORK/listeners.log" 2>&1 <<'PY' &
 import socket, sys, time
 held = []
 for port in (8080, 50000):

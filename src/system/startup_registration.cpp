@@ -1,0 +1,31 @@
+#include "system/startup_registration.h"
+
+#include "base/product.h"
+
+namespace system_items {
+
+namespace msgbox = platform::msgbox;
+
+std::string ShortcutName(const std::string& executableName) { return executableName + ".exe.lnk"; }
+
+bool RegisterAtStartup(platform::IStartupFolder& startup, platform::IInstance& instance) {
+    const auto folder = startup.Path();
+    if (!folder) return false;
+    const std::string name = instance.ExecutableName();
+    return startup.SaveShortcut(*folder + "\\" + ShortcutName(name),
+                                instance.ExecutableFolder() + "\\" + name + ".exe");
+}
+
+void mnuSUpTouroku_Click(platform::IDialogs& dialogs, platform::IStartupFolder& startup,
+                         platform::IInstance& instance) {
+    if (dialogs.ShowMessage("本プログラムをスタートアップに登録しますか？\r\n", base::kProductName,
+                            msgbox::kYesNo | msgbox::kQuestion) != msgbox::kYes) {
+        return;
+    }
+    // Success, too, has always come with the exclamation icon.
+    const char* result = RegisterAtStartup(startup, instance) ? "スタートアップの登録に成功しました。"
+                                                              : "スタートアップの登録に失敗しました。";
+    dialogs.ShowMessage(result, base::kProductName, msgbox::kExclamation);
+}
+
+}  // namespace system_items
