@@ -4,7 +4,6 @@
 #include <string>
 
 #include "platform/dialogs.h"
-#include "platform/instance.h"
 #include "platform/shell.h"
 
 namespace system_items {
@@ -13,11 +12,16 @@ namespace system_items {
 // double extension has always been there; kept so an existing shortcut is found and replaced.
 std::string ShortcutName(const std::string& executableName);
 
+// This executable: its folder (no trailing "\") and its name without ".exe".
+struct Executable {
+    std::string folder;
+    std::string name;
+};
+
 // Saves or replaces the shortcut; true when it got to the end.
-bool RegisterAtStartup(platform::IStartupFolder& startup, platform::IInstance& instance);
+bool RegisterAtStartup(platform::IStartupFolder& startup, const Executable& executable);
 
 // The menu item: asks first, registers on Yes and says how it went.
-void mnuSUpTouroku_Click(platform::IDialogs& dialogs, platform::IStartupFolder& startup,
-                         platform::IInstance& instance);
+void mnuSUpTouroku_Click(platform::IDialogs& dialogs, platform::IStartupFolder& startup, const Executable& executable);
 
 }  // namespace system_items

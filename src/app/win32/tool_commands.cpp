@@ -13,7 +13,9 @@ ToolCommands::ToolCommands(mainwindow::MainWindowModel& model, HWND mainWindow, 
     : m_model(model), m_mainWindow(mainWindow), m_services(services) {
     model.SetMenuHandler(MenuItem::mnuVESKARTOOLZ, [this] { OpenMachinePanel(); });
     model.SetMenuHandler(MenuItem::mnuSUpTouroku, [this] {
-        system_items::mnuSUpTouroku_Click(m_services.dialogs, m_startupFolder, m_services.instance);
+        // A renamed copy registers under its own name.
+        system_items::mnuSUpTouroku_Click(m_services.dialogs, m_startupFolder,
+                                          {m_services.instance.ExecutableFolder(), m_services.instance.ExecutableName()});
     });
 }
 

@@ -33,16 +33,7 @@ FrmAbout::FrmAbout(AboutTexts texts, std::function<void()> openWebSite)
     : m_texts(std::move(texts)), m_openWebSite(std::move(openWebSite)) {}
 
 void FrmAbout::ShowModal(HWND owner) {
-    RegisterWindowClass(kClassName);
-    const DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU;
-    const DWORD exStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
-    RECT frame{0, 0, S(kWidth), S(kHeight)};
-    AdjustWindowRectEx(&frame, style, FALSE, exStyle);
-    const int width = frame.right - frame.left;
-    const int height = frame.bottom - frame.top;
-    const POINT at = base::CentredPosition(owner, width, height);
-    CreateWindowFor(exStyle, kClassName, base::Widen(m_texts.caption).c_str(), style, at.x, at.y, width, height,
-                    owner);
+    CreateDialogFrame(kClassName, base::Widen(m_texts.caption).c_str(), S(kWidth), S(kHeight), owner);
     CreateControls();
     m_closed = false;
     base::RunModal(Handle(), owner, m_closed);

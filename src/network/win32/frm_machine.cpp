@@ -37,15 +37,7 @@ HWND Group(HWND parent, const char* caption, int y, int height) {
 }  // namespace
 
 void FrmMachine::ShowModal(HWND owner) {
-    RegisterWindowClass(kClassName);
-    const DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU;
-    const DWORD exStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
-    RECT frame{0, 0, S(kWidth), S(kHeight)};
-    AdjustWindowRectEx(&frame, style, FALSE, exStyle);
-    const int width = frame.right - frame.left;
-    const int height = frame.bottom - frame.top;
-    const POINT at = base::CentredPosition(owner, width, height);
-    CreateWindowFor(exStyle, kClassName, L"ユーティリティ", style, at.x, at.y, width, height, owner);
+    CreateDialogFrame(kClassName, L"ユーティリティ", S(kWidth), S(kHeight), owner);
     CreateControls();
     m_panel.SetListener([this] { ShowPanel(); });
     ShowPanel();
