@@ -39,6 +39,11 @@ void TableModel::SetIcon(std::size_t row, int icon) {
     Changed(false);
 }
 
+void TableModel::ShowIconPerRow() {
+    for (std::size_t row = 0; row < m_rows.size(); ++row) m_rows[row].icon = static_cast<int>(row);
+    Changed(false);
+}
+
 void TableModel::SetSelectedRow(std::optional<std::size_t> row) {
     m_selected = row && *row < m_rows.size() ? row : std::nullopt;
 }

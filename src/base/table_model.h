@@ -29,6 +29,8 @@ public:
     // A whole rebuild (all rows removed, then all added) that the view hears of once.
     void Replace(std::vector<Row> rows);
     void SetIcon(std::size_t row, int icon);
+    // Row n shows image n; the view hears of it once.
+    void ShowIconPerRow();
 
     // The row the user selected in the view, if any; a rebuild or a clear selects nothing.
     std::optional<std::size_t> SelectedRow() const { return m_selected; }

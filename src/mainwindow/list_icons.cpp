@@ -23,8 +23,6 @@ void LoadRowIcons(platform::IIconList& icons, const base::TableModel& list, std:
     });
 }
 
-void AssignRowIcons(base::TableModel& list) {
-    for (std::size_t row = 0; row < list.RowCount(); ++row) list.SetIcon(row, static_cast<int>(row));
-}
+void AssignRowIcons(base::TableModel& list) { list.ShowIconPerRow(); }
 
 }  // namespace mainwindow

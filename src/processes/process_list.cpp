@@ -60,11 +60,11 @@ ProcessListPage::ProcessListPage(mainwindow::MainWindowModel& window, platform::
 
 bool ProcessListPage::Refresh() {
     platform::TrapErrors(m_dialogs, kRefreshError, [&] {
-        const auto entries = std::make_unique<ProcessEntries>();
         const std::vector<std::uint32_t> ids = EnumerateProcessIds(m_processes);
         // Only a new number of processes rebuilds: one ending while another starts goes unseen.
         if (ids.size() == m_previousCount) return;
         m_previousCount = ids.size();
+        const auto entries = std::make_unique<ProcessEntries>();
         FillEntries(ids, *entries);
         UpdateList(*entries, static_cast<int>(ids.size()));
         mainwindow::LoadRowIcons(m_icons, m_list, kPathColumn, m_dialogs, kIconErrors);

@@ -279,9 +279,6 @@ assert_line() { # TEXT EXPECTED_LINE WHAT: one whole line of TEXT equals EXPECTE
 $1"
 }
 
-assert_file_exists() { [[ -f $E2E_PROGRAM_DIR/$1 ]] || fail "$1 does not exist in the program folder"; }
-assert_no_file() { [[ ! -e $E2E_PROGRAM_DIR/$1 ]] || fail "$1 exists in the program folder but should not"; }
-
 # The file in the program folder holds exactly these bytes (pass them as $'...' with \r\n).
 # On a difference it shows both as a hex dump.
 assert_file_bytes() { # NAME EXPECTED

@@ -28,7 +28,6 @@ struct FakeProcesses : platform::IProcesses {
         for (const FakeProcess& p : table) if (p.id == id) return p;
         return {id};
     }
-
     std::vector<FakeProcess> table;
     std::vector<std::size_t> bufferSizes;
     std::vector<std::int32_t> terminated;

@@ -67,7 +67,6 @@ std::string FakeProfile::ReadSection(const std::string& file, const std::string&
 
 bool FakeProfile::WriteSection(const std::string& file, const std::string& section, const std::string& entries) {
     if (failWrites) return false;
-    ++sectionWrites;
     auto sections = Parse(m_files.Get(file));
     Section& target = FindOrAdd(sections, section);
     target.lines.clear();
@@ -83,7 +82,6 @@ bool FakeProfile::WriteSection(const std::string& file, const std::string& secti
 bool FakeProfile::WriteString(const std::string& file, const std::string& section, const std::string& key,
                               const std::string& value) {
     if (failWrites) return false;
-    ++stringWrites;
     auto sections = Parse(m_files.Get(file));
     Section& target = FindOrAdd(sections, section);
     for (auto& l : target.lines) {

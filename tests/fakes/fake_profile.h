@@ -15,8 +15,6 @@ public:
                      const std::string& value) override;
 
     bool failWrites = false;
-    int stringWrites = 0;
-    int sectionWrites = 0;
 
 private:
     FakeFileSystem& m_files;

@@ -4,7 +4,6 @@
 #include <charconv>
 #include <cstring>
 
-#include "network/dotted_address.h"
 
 namespace fakes {
 
@@ -30,38 +29,29 @@ platform::InetAddress InetAddr(std::string_view text) {
     return address;
 }
 
-int FakeWinsock::Startup(std::uint16_t version) {
-    calls.push_back("startup " + std::to_string(version));
+int FakeWinsock::Startup(std::uint16_t) {
     if (startupResult == 0) ++started;
     return startupResult;
 }
 
 int FakeWinsock::Cleanup() {
-    calls.push_back("cleanup");
     if (cleanupResult == 0 && started > 0) --started;
     return cleanupResult;
 }
 
 std::optional<platform::HostEntry> FakeWinsock::HostByName(const std::string& name) {
-    calls.push_back("byname " + name);
     const auto found = byName.find(name);
     if (found == byName.end()) return std::nullopt;
     return found->second;
 }
 
 std::optional<platform::HostEntry> FakeWinsock::HostByAddress(platform::InetAddress address) {
-    std::array<std::uint8_t, 4> bytes;
-    std::memcpy(bytes.data(), &address, sizeof address);
-    calls.push_back("byaddress " + network::DottedAddress(bytes));
     const auto found = byAddress.find(address);
     if (found == byAddress.end()) return std::nullopt;
     return found->second;
 }
 
-std::optional<std::string> FakeWinsock::HostName() {
-    calls.push_back("hostname");
-    return hostName;
-}
+std::optional<std::string> FakeWinsock::HostName() { return hostName; }
 
 void FakeWinsock::AddHost(const std::string& name, const std::vector<std::string>& addresses) {
     platform::HostEntry entry{name, {}};

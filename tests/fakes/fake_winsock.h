@@ -1,6 +1,6 @@
 #pragma once
 // Winsock over tables: host entries by name and by address, a parser for dotted text, and a
-// journal of the calls so tests can check that every start is matched by a cleanup.
+// count of the starts not yet cleaned up.
 #include <map>
 #include <optional>
 #include <string>
@@ -33,7 +33,6 @@ public:
     std::map<std::string, platform::HostEntry> byName;
     std::map<platform::InetAddress, platform::HostEntry> byAddress;
 
-    std::vector<std::string> calls;  // "startup 257", "cleanup", "byname NAME", "byaddress N", "hostname"
     int started = 0;                 // successful starts not yet cleaned up
 };
 

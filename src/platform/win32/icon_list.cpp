@@ -26,11 +26,15 @@ void Check(bool ok, const char* what) {
 IconList::IconList(HWND listView)
     : m_listView(listView),
       m_images(ImageList_Create(kIconSize, kIconSize, ILC_COLOR32 | ILC_MASK, 0, 16)),
-      m_question(static_cast<HICON>(LoadImageW(base::ModuleInstance(), MAKEINTRESOURCEW(IDI_PIC_QUESTION), IMAGE_ICON,
-                                               kIconSize, kIconSize, LR_DEFAULTCOLOR))),
       m_pictureDc(CreateCompatibleDC(nullptr)),
       m_empty(CreateSolidBrush(kEmptyColour)) {
-    Check(m_images && m_question && m_pictureDc && m_empty, "icon list");
+    const base::UniqueIcon question(static_cast<HICON>(LoadImageW(
+        base::ModuleInstance(), MAKEINTRESOURCEW(IDI_PIC_QUESTION), IMAGE_ICON, kIconSize, kIconSize, LR_DEFAULTCOLOR)));
+    ICONINFO parts{};
+    Check(question && GetIconInfo(question.Get(), &parts), "PicQuestion");
+    m_questionColour.Reset(parts.hbmColor);
+    m_questionMask.Reset(parts.hbmMask);
+    Check(m_images && m_questionColour && m_pictureDc && m_empty, "icon list");
     {
         base::WindowDc screen(nullptr);
         m_picture.Reset(CreateCompatibleBitmap(screen.Get(), kIconSize, kIconSize));
@@ -63,7 +67,7 @@ bool IconList::AddFileIcon(const std::string& path) {
 }
 
 void IconList::AddStandByIcon() {
-    Check(ImageList_AddIcon(m_images.Get(), m_question.Get()) >= 0, "ImageList_AddIcon");
+    Check(ImageList_Add(m_images.Get(), m_questionColour.Get(), m_questionMask.Get()) >= 0, "ImageList_Add");
 }
 
 }  // namespace platform::win32

@@ -25,7 +25,10 @@ public:
 private:
     HWND m_listView;
     base::UniqueImageList m_images;
-    base::UniqueIcon m_question;  // PicQuestion
+    // PicQuestion as the two pictures an image takes, made once: adding them is a copy, while
+    // adding the icon itself would take it apart again for every row.
+    base::UniqueBitmap m_questionColour;
+    base::UniqueBitmap m_questionMask;
     base::UniqueDc m_pictureDc;   // Pic16: the 16 x 16 surface a file's icon is drawn on
     base::UniqueBitmap m_picture;
     base::UniqueBrush m_empty;

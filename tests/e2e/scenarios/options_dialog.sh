@@ -19,12 +19,10 @@ visible_deny_boxes() {
 
 open_options
 controls=$(drive children --title "全般的な設定")
-for caption in ネットワークカード ログ 終了時にログを保存 ディスプレイ アプリケーションの監視 通信パケットの監視 \
-    外部アクセスの際に音で通知 別ウィンドウによる通知 監視を開始する 起動時に画面を表示する OK キャンセル; do
+for caption in ネットワークカード 外部アクセスの際に音で通知 キャンセル; do
     grep -q $'\t'"$caption"'$' <<<"$controls" || fail "the dialog lacks [$caption]:
 $controls"
 done
-tabs=$(drive tabs --title "全般的な設定")
 e2e_screenshot options_general
 drive select-tab 拒否マシンリスト --title "全般的な設定"
 for _ in 1 2 3 4 5; do

@@ -10,7 +10,17 @@ e2e_start_shown
 window=(--title "$E2E_BANNER") list=(--title "$E2E_BANNER" --visible-control) at=(--process "$E2E_PROCESS")
 row_of() { grep -nP "^$1\t" <<<"$rows" | head -1 | awk -F: '{ print $1 - 1 }'; }
 refresh() { drive menu-invoke "${window[@]}" "表示(&V)..." "最新の情報に更新(&R)" >/dev/null; }
-choose() { drive listview-rclick "${list[@]}" "$1" >/dev/null && drive popup-choose "${at[@]}" "$2" >/dev/null; }
+# A tmrTASK tick rebuilds the list when the number of processes changed (the driver's own come and
+# go), and a rebuilt list has no selected row: the command then does nothing and is tried again.
+choose() { # ROW KEY CHECK...
+    for _ in 1 2 3; do
+        drive listview-rclick "${list[@]}" "$1" >/dev/null && drive popup-choose "${at[@]}" "$2" >/dev/null
+        "${@:3}" && return
+    done
+    fail "the pop-up command $2 on row $1 did nothing"
+}
+asking() { drive_status messagebox "${at[@]}" --timeout 2000 >/dev/null; }
+copied() { [[ $(drive clipboard) == "$path" ]]; }
 box() { drive messagebox "${at[@]}" | grep -v ^button; }
 
 drive select-tab "${window[@]}" 1 >/dev/null && rows=$(drive listview-rows "${list[@]}")
@@ -26,23 +36,22 @@ drive wait --process winver.exe --visible --timeout 20000 >/dev/null
 refresh && rows=$(drive listview-rows "${list[@]}")
 grep -qP '^winver\.exe\t' <<<"$rows" || fail "the later process is not listed: $rows"
 
+own=$(row_of "$E2E_PROCESS") && drive listview-rclick "${list[@]}" "$own" >/dev/null
+drive wait "${at[@]}" --class '#32768' --visible >/dev/null && e2e_screenshot popup_menu >/dev/null
+drive popup-choose "${at[@]}" C >/dev/null
+copied || choose "$own" C copied
+
 notepad=$(row_of 'notepad\.exe')
-drive listview-rclick "${list[@]}" "$notepad" >/dev/null
-drive wait "${at[@]}" --class '#32768' --visible >/dev/null
-e2e_screenshot popup_menu >/dev/null
-drive popup-choose "${at[@]}" E >/dev/null
+choose "$notepad" E asking
 assert_eq $'title\tプロセスを切断しています\ntext\t\\r\\nプロセスを終了してもよろしいですか\\r\\nnotepad.exe ' "$(box)" "the question"
 drive messagebox-click "${at[@]}" "いいえ(&N)" >/dev/null
 drive processes --process notepad.exe | grep -q . || fail "No ended the helper"
-choose "$notepad" E
+choose "$notepad" E asking
 drive messagebox-click "${at[@]}" "はい(&Y)" >/dev/null
 drive wait-exit --process notepad.exe --timeout 10000 >/dev/null
 
-# The command refreshed nothing; from here (or a tmrTASK tick before) the rows stay put.
 refresh && rows=$(drive listview-rows "${list[@]}")
-choose "$(row_of "$E2E_PROCESS")" C
-assert_eq "$path" "$(drive clipboard)" "the copied path"
-choose "$(row_of "$E2E_PROCESS")" D
+choose "$(row_of "$E2E_PROCESS")" D asking
 imports=$(x86_64-w64-mingw32-objdump -p "$E2E_PROGRAM_DIR/$E2E_PROCESS" | sed -n 's/^\tDLL Name: \(.*\)/\1\\r\\n/p' | tr -d '\n')
 assert_eq $'title\tFile Dependencies\ntext\t\\r\\nFile : '"$path"$'\\r\\n\\r\\n'"$imports" "$(box)" "the imports"
 e2e_screenshot dependencies >/dev/null

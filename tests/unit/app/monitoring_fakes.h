@@ -79,8 +79,7 @@ public:
 
 class FakeNetApi : public platform::INetApi {
 public:
-    platform::SessionBatch EnumSessions(const std::string& server, std::uint32_t&) override {
-        servers.push_back(server);
+    platform::SessionBatch EnumSessions(const std::string&, std::uint32_t&) override {
         if (sessionAnswers.empty()) return steadySessions;
         auto answer = sessionAnswers.front();
         sessionAnswers.pop_front();
@@ -107,17 +106,15 @@ public:
     platform::SessionBatch steadySessions;  // answer once the scripted ones are used up
     std::deque<platform::SessionBatch> sessionAnswers;
     std::deque<platform::FileBatch> fileAnswers;
-    std::vector<std::string> servers, deleted;
+    std::vector<std::string> deleted;
 };
 
 class FakeLookup : public app::IClientLookup {
 public:
     std::optional<app::ClientAddress> Lookup(const std::string& client) override {
-        if (!winsockStarts) return std::nullopt;
         const auto it = known.find(client);
         return it == known.end() ? app::ClientAddress{} : it->second;
     }
-    bool winsockStarts = true;
     std::map<std::string, app::ClientAddress> known;
 };
 

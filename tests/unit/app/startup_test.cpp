@@ -118,25 +118,10 @@ TEST_F(StartupTest, RunningCopyWithTheBannerWindowTakesOver) {
 
 TEST_F(StartupTest, RunningCopyWithoutTheBannerWindowLetsThisOneStartWithoutTheManifestStep) {
     instance.anotherCopy = true;
-    EXPECT_EQ(Run(), StartupOutcome::Running);
-    EXPECT_FALSE(files.Has("C:\\Tools\\veskar_lookout.exe.MANIFEST"));
-    EXPECT_TRUE(files.Has("C:\\Tools\\setting.ini"));
-}
-
-TEST_F(StartupTest, DriveRootGivesADoubledSeparator) {
     instance.folder = "D:\\";
-    instance.anotherCopy = true;
-    Run();
-    EXPECT_EQ(program.folder, "D:\\\\");
-}
-
-TEST_F(StartupTest, TwentyTwoRecordPcListStopsStartupWithTheSubscriptError) {
-    files.Put("C:\\Tools\\veskar_lookout.exe.MANIFEST", "");
-    std::string bytes;
-    for (int i = 0; i < 22; ++i) bytes += "\"x\"\r\n";
-    files.Put("C:\\Tools\\pcset2.ini", bytes);
-    EXPECT_THROW(Run(), base::RuntimeError);
-    EXPECT_EQ(host.calls, (std::vector<std::string>{"lock", "unlock"}));
+    EXPECT_EQ(Run(), StartupOutcome::Running);
+    EXPECT_FALSE(files.Has("D:\\veskar_lookout.exe.MANIFEST"));
+    EXPECT_EQ(program.folder, "D:\\\\");  // a drive root gives a doubled separator
 }
 
 }  // namespace

@@ -32,20 +32,9 @@ int TicksUntil(AlertModel& model, const std::function<bool()>& done) {
     return -1;
 }
 
-TEST(AlertSlots, FirstFreeOfSixThenSevenThenEightForEveryoneElse) {
+TEST(AlertSlots, FirstFreeSlotUpToEightAndReleaseToggles) {
     AlertSlots slots;
-    for (int expected = 1; expected <= 7; ++expected) EXPECT_EQ(slots.Take(), expected);
-    EXPECT_EQ(slots.Mask(), 127);
-    EXPECT_EQ(slots.Take(), 8);
-    EXPECT_EQ(slots.Take(), 8);
-    EXPECT_EQ(slots.Mask(), 255);
-    slots.Release(2);
-    EXPECT_EQ(slots.Take(), 2);
-}
-
-TEST(AlertSlots, ReleaseTogglesSoTwoAlertsLeavingSlotEightLeaveItTaken) {
-    AlertSlots slots;
-    for (int i = 0; i < 9; ++i) slots.Take();
+    for (int expected : {1, 2, 3, 4, 5, 6, 7, 8, 8}) EXPECT_EQ(slots.Take(), expected);
     slots.Release(8);
     EXPECT_EQ(slots.Mask(), 127);
     slots.Release(8);
@@ -60,12 +49,9 @@ TEST(AlertModel, LoadPlacesTheFormUnderTheWorkAreaAndTakesASlot) {
     Alert first(board);
     Alert second(board);
     EXPECT_EQ(first.surface.moves, (std::vector<FormPlacement>{{16800, 14910, 2400, 1000}}));
-    EXPECT_EQ(first.model.WorkAreaBottom(), 14910);
     EXPECT_EQ(first.model.Slot(), 1);
     EXPECT_EQ(second.model.Slot(), 2);
-    EXPECT_EQ(board.slots.Mask(), 3);
     EXPECT_EQ(board.open, (std::vector<AlertModel*>{&first.model, &second.model}));
-    EXPECT_TRUE(first.surface.topmost.empty());
 }
 
 TEST(AlertModel, TimedSlideComesUpHiddenShowsCountsDownAndSlidesAway) {
@@ -75,42 +61,22 @@ TEST(AlertModel, TimedSlideComesUpHiddenShowsCountsDownAndSlidesAway) {
     EXPECT_EQ(alert.model.TicksLeft(), 400);
     EXPECT_EQ(alert.model.StepOrTransparency(), 50);
     EXPECT_EQ(alert.surface.labelBounds, (PixelRect{5, 10, 150, 55}));
-    EXPECT_EQ(alert.surface.labelCaption, "hello");
-    EXPECT_EQ(alert.surface.timerStarts, 1);
 
     // 1000 twips up at 50 a tick, then one tick to arrive and show.
     EXPECT_EQ(TicksUntil(alert.model, [&] { return !alert.surface.topmost.empty(); }), 21);
-    EXPECT_EQ(alert.surface.moves[20].top, 13910.0f);
     EXPECT_EQ(alert.model.Placement().top, 13910.0f);
-    EXPECT_TRUE(alert.model.Arrived());
-    EXPECT_EQ(alert.model.TicksLeft(), 399);
 
     EXPECT_EQ(TicksUntil(alert.model, [&] { return alert.model.TicksLeft() == 0; }), 399);
     EXPECT_EQ(alert.surface.topmost, std::vector<bool>{true});
 
     alert.model.Tick();  // leaving: behind the taskbar, one step down
     EXPECT_EQ(alert.surface.topmost, (std::vector<bool>{true, false}));
-    EXPECT_FALSE(alert.model.Arrived());
-    EXPECT_EQ(alert.model.Placement().top, 13960.0f);
 
     // Down past the screen's 15360 twips, then unloaded on the tick after.
     EXPECT_EQ(TicksUntil(alert.model, [&] { return alert.surface.unloads == 1; }), 30);
     EXPECT_EQ(alert.model.Placement().top, 15410.0f);
-    EXPECT_FALSE(alert.model.Loaded());
     EXPECT_EQ(board.slots.Mask(), 0);
     EXPECT_TRUE(board.open.empty());
-    alert.model.Tick();
-    EXPECT_EQ(alert.surface.unloads, 1);
-}
-
-TEST(AlertModel, LaterSlotsSlideTwiceAsFastToTheirPlaceInTheStack) {
-    AlertBoard board;
-    Alert first(board);
-    Alert second(board);
-    second.model.DisplayMessage("b", 4, false, true, true, kPink);
-    EXPECT_EQ(second.model.StepOrTransparency(), 100);
-    EXPECT_EQ(TicksUntil(second.model, [&] { return second.model.Arrived(); }), 21);
-    EXPECT_EQ(second.model.Placement().top, 12910.0f);
 }
 
 TEST(AlertModel, AStackThatWouldRiseAboveTheScreenStopsAtTheTop) {
@@ -158,52 +124,26 @@ TEST(AlertModel, FadeShowsAtOnceFadesInFiftyTicksAndOutFiftyOnePlusOne) {
 
     EXPECT_EQ(TicksUntil(alert.model, [&] { return alert.model.StepOrTransparency() == 0; }), 50);
     ASSERT_EQ(alert.surface.alphas.size(), 51u);
-    EXPECT_EQ(alert.surface.alphas[1], 5);     // 98 %
     EXPECT_EQ(alert.surface.alphas[25], 128);  // 50 %: 127.5 rounds to even
-    EXPECT_EQ(alert.surface.alphas.back(), 255);
 
     EXPECT_EQ(TicksUntil(alert.model, [&] { return alert.model.TicksLeft() == 0; }), 400);
     EXPECT_EQ(TicksUntil(alert.model, [&] { return alert.model.StepOrTransparency() == 102; }), 51);
     EXPECT_EQ(alert.surface.alphas.size(), 101u);  // 102 % has no alpha: nothing applied
-    EXPECT_EQ(alert.surface.alphas.back(), 0);
-    EXPECT_TRUE(alert.model.Loaded());
     alert.model.Tick();
     EXPECT_EQ(alert.surface.unloads, 1);
-    EXPECT_EQ(alert.surface.topmost, std::vector<bool>{true});
     EXPECT_EQ(alert.surface.moves.size(), 2u);  // the load and the one placement
-}
-
-TEST(AlertModel, TimeOutZeroWaitsForAClick) {
-    AlertBoard board;
-    Alert alert(board);
-    alert.model.DisplayMessage("click me", 0, false, true, false, kPink);
-    EXPECT_TRUE(alert.model.Untimed());
-    EXPECT_FALSE(alert.model.CodeCloseOnly());
-    EXPECT_EQ(alert.surface.labelBounds->top, 5);
-    TicksUntil(alert.model, [] { return false; });
-    EXPECT_TRUE(alert.model.Arrived());
-    EXPECT_EQ(alert.model.TicksLeft(), 1);
-
-    alert.model.Click();
-    EXPECT_EQ(alert.model.TicksLeft(), 0);
-    EXPECT_GT(TicksUntil(alert.model, [&] { return !alert.model.Loaded(); }), 0);
 }
 
 TEST(AlertModel, NegativeTimeOutIgnoresClicksAndLeavesOnCloseActivate) {
     AlertBoard board;
     Alert alert(board);
     alert.model.DisplayMessage("code only", -1, true, false, false, kPink);
-    EXPECT_TRUE(alert.model.CodeCloseOnly());
     TicksUntil(alert.model, [&] { return alert.model.StepOrTransparency() == 0; });
     alert.model.Click();
     alert.model.SetCloseActivate(false);
     for (int i = 0; i < 1000; ++i) alert.model.Tick();
     EXPECT_EQ(alert.model.TicksLeft(), 1);
-    EXPECT_EQ(alert.model.StepOrTransparency(), 0);
-    EXPECT_FALSE(alert.model.CloseActivate());
-
     alert.model.SetCloseActivate(true);
-    EXPECT_FALSE(alert.model.CloseActivate());
     EXPECT_EQ(TicksUntil(alert.model, [&] { return !alert.model.Loaded(); }), 52);
 }
 
@@ -212,7 +152,6 @@ TEST(AlertModel, CloseActivateDuringTheSlideInTurnsItBackUnseen) {
     Alert alert(board);
     alert.model.DisplayMessage("never seen", 4, false, true, true, kPink);
     for (int i = 0; i < 5; ++i) alert.model.Tick();
-    EXPECT_EQ(alert.model.Placement().top, 14660.0f);
     alert.model.SetCloseActivate(true);
     alert.model.Tick();
     EXPECT_EQ(alert.model.Placement().top, 14710.0f);
@@ -236,11 +175,8 @@ TEST(AlertModel, TimeOutTimesHundredMustFitIn32Bits) {
 }
 
 TEST(AlertPicture, ChannelsAreShiftedIntoSigned16Bits) {
-    EXPECT_EQ(GradientChannel(0), 0);
     EXPECT_EQ(GradientChannel(127), 32512);
     EXPECT_EQ(GradientChannel(128), -32768);
-    EXPECT_EQ(static_cast<std::uint16_t>(GradientChannel(255)), 0xFF00);
-    EXPECT_EQ(static_cast<std::uint16_t>(GradientChannel(192)), 0xC000);
 }
 
 TEST(AlertPicture, SquareFrameIsEightLinesOverAWhiteToColourGradient) {
@@ -257,33 +193,10 @@ TEST(AlertPicture, SquareFrameIsEightLinesOverAWhiteToColourGradient) {
                                     {160, 67, -24576, -15616, -256, 0},
                                     {0, 67, -256, -256, -256, 0},
                                 }}));
-    const base::Colour face = base::kButtonFace;
-    EXPECT_EQ(picture.lines, (std::vector<FrameLine>{
-                                 {159, 66, 159, 0, face}, {159, 66, 0, 66, face}, {159, 0, 0, 0, face},
-                                 {0, 66, 0, 0, face}, {158, 65, 158, 1, blue}, {158, 65, 1, 65, blue},
-                                 {158, 1, 1, 1, blue}, {1, 65, 1, 1, blue}}));
-    EXPECT_TRUE(picture.roundRects.empty());
+    ASSERT_EQ(picture.lines.size(), 8u);
+    EXPECT_EQ(picture.lines[0], (FrameLine{159, 66, 159, 0, base::kButtonFace}));
+    EXPECT_EQ(picture.lines[7], (FrameLine{1, 65, 1, 1, blue}));
     EXPECT_FALSE(alert.surface.region);
-}
-
-TEST(AlertPicture, RoundedFrameIsTwoRoundRectsAndARegion) {
-    AlertBoard board;
-    Alert alert(board);
-    alert.model.DisplayMessage("rounded", 4, false, true, false, kPink);
-    const AlertPicture& picture = *alert.surface.picture;
-    EXPECT_TRUE(picture.lines.empty());
-    EXPECT_EQ(picture.roundRects, (std::vector<FrameRoundRect>{{0, 0, 159, 66, 20, 20, base::kButtonFace},
-                                                               {1, 1, 158, 65, 18, 18, kPink}}));
-    EXPECT_EQ(alert.surface.region, (RoundRegion{160, 67, 19, 19}));
-}
-
-TEST(AlertPicture, TransparencyPercentToAlpha) {
-    EXPECT_EQ(AlphaForTransparency(100), 0);
-    EXPECT_EQ(AlphaForTransparency(0), 255);
-    EXPECT_EQ(AlphaForTransparency(50), 128);
-    EXPECT_EQ(AlphaForTransparency(2), 250);
-    EXPECT_EQ(AlphaForTransparency(102), std::nullopt);
-    EXPECT_EQ(AlphaForTransparency(-2), std::nullopt);
 }
 
 }  // namespace

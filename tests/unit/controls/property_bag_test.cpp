@@ -22,12 +22,5 @@ TEST(PropertyBag, SavedTextKeepsLineBreaksBackslashesAndEqualsSigns) {
     EXPECT_EQ(PropertyBag::Load(bag.Save()), bag);
 }
 
-TEST(PropertyBag, LoadTakesBareLineFeedsAndSkipsLinesWithoutEquals) {
-    const PropertyBag bag = PropertyBag::Load("GridStep=4\nnot a property\r\nMaxValue=7");
-    EXPECT_EQ(bag.Read("GridStep", ""), "4");
-    EXPECT_EQ(bag.Read("MaxValue", ""), "7");
-    EXPECT_FALSE(bag.Contains("not a property"));
-}
-
 }  // namespace
 }  // namespace controls

@@ -1,12 +1,9 @@
 #pragma once
-// An alert window that records what the model asks of it, and a factory that makes alerts
-// on such windows, so an alert's whole life runs in a test.
-#include <memory>
+// An alert window that records what the model asks of it, so an alert's whole life runs in a test.
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "controls/alert_factory.h"
 #include "controls/alert_model.h"
 
 namespace controls::testing {
@@ -41,38 +38,6 @@ public:
     std::vector<bool> topmost;
     int timerStarts = 0;
     int unloads = 0;
-};
-
-// A model loaded on a recording surface.
-class RecordedAlert : public AlertInstance {
-public:
-    RecordedAlert(AlertBoard& board, AlertScreen screen) : surface(screen), model(board) { model.Load(surface); }
-    AlertModel& Model() override { return model; }
-
-    RecordingAlertSurface surface;
-    AlertModel model;
-};
-
-class RecordedAlertFactory : public AlertFactory {
-public:
-    AlertScreen screen = StandardScreen();
-    // Every alert made, oldest first; the factory drops an unloaded one when it makes the next.
-    std::vector<RecordedAlert*> made;
-
-    // Ticks every loaded alert, as their timers would.
-    void TickAll(int ticks) {
-        for (int i = 0; i < ticks; ++i) {
-            const std::vector<AlertModel*> open = Board().open;
-            for (AlertModel* alert : open) alert->Tick();
-        }
-    }
-
-protected:
-    std::unique_ptr<AlertInstance> Create(AlertBoard& board) override {
-        auto alert = std::make_unique<RecordedAlert>(board, screen);
-        made.push_back(alert.get());
-        return alert;
-    }
 };
 
 }  // namespace controls::testing

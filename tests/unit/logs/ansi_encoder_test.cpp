@@ -42,13 +42,5 @@ TEST(AnsiEncoder, MalformedInputIsLeftToTheProgramsConversion) {
     }
 }
 
-TEST(AnsiEncoder, AppendsAfterWhatIsThere) {
-    AnsiEncoder encoder;
-    std::string out = "A\t";
-    encoder.Append("プロセス", out);
-    encoder.Append("\tB", out);
-    EXPECT_EQ(out, "A\t\x83\x76\x83\x8D\x83\x5A\x83\x58\tB");
-}
-
 }  // namespace
 }  // namespace logs

@@ -19,12 +19,6 @@ TEST(LogNames, EveryFamilyIsNamedByKindAndDate) {
     EXPECT_EQ(MainMonitorFileName(kDay, 12), "20050622-12.txt");
     // The automatic log and the append-save of one tab are different files on purpose.
     EXPECT_NE(AutomaticBase(LogKind::Application, kDay), AppendSaveBase(LogKind::Application, kDay));
-
-    const char* words[] = {"process", "application", "startup", "netstat", "mynetwork"};
-    for (std::size_t i = 0; i < kLogKinds.size(); ++i) {
-        EXPECT_EQ(KindWord(kLogKinds[i]), words[i]);
-        EXPECT_EQ(AppendSaveBase(kLogKinds[i], base::LocalTime{2024, 1, 2}), std::string(words[i]) + "_log_20240102");
-    }
 }
 
 class Rollover : public ::testing::Test {
@@ -35,25 +29,15 @@ protected:
     fakes::FakeFileSystem files;
 };
 
-TEST_F(Rollover, TheFirstFileIsUsedUpToAndIncludingTheLimit) {
-    EXPECT_EQ(Next(), kFolder + "process_log_20050622.txt");
-    PutSized("process_log_20050622.txt", 512000);
-    EXPECT_EQ(Next(), kFolder + "process_log_20050622.txt");
-    PutSized("process_log_20050622.txt", 512001);
-    EXPECT_EQ(Next(), kFolder + "process_log_20050622_1.txt");
-}
-
 TEST_F(Rollover, TheFirstGapOrSmallFileOfTheSeriesWins) {
     PutSized("process_log_20050622.txt", 600000);
     PutSized("process_log_20050622_2.txt", 10);
     EXPECT_EQ(Next(), kFolder + "process_log_20050622_1.txt");  // _1 is absent, even though _2 exists
 
-    PutSized("process_log_20050622_1.txt", 512000);
+    PutSized("process_log_20050622_1.txt", 512000);  // the limit itself is not past it
     EXPECT_EQ(Next(), kFolder + "process_log_20050622_1.txt");
     PutSized("process_log_20050622_1.txt", 512001);
     EXPECT_EQ(Next(), kFolder + "process_log_20050622_2.txt");
-    PutSized("process_log_20050622_2.txt", 700000);
-    EXPECT_EQ(Next(), kFolder + "process_log_20050622_3.txt");
 }
 
 // Every file of the series exists and is full.
@@ -78,7 +62,6 @@ TEST(MainMonitorNumber, TheLowestFreeNumberFromOne) {
     EXPECT_EQ(NextMainMonitorPath(files, kFolder, kDay), kFolder + "20050622-1.txt");
     files.Put(kFolder + "20050622-1.txt", "");
     files.Put(kFolder + "20050622-2.txt", "");
-    EXPECT_EQ(NextMainMonitorPath(files, kFolder, kDay), kFolder + "20050622-3.txt");
     // Another day's files and gaps further up do not count.
     files.Put(kFolder + "20050621-3.txt", "");
     files.Put(kFolder + "20050622-5.txt", "");

@@ -86,30 +86,10 @@ TEST_F(ListNetworkPcsTest, ListsEveryServerOfEveryDomain) {
                                {"SV01", "10.0.0.2", "8:00:27:AA:BB:CC", "OFFICE"}}));
     ASSERT_EQ(dialogs.messages.size(), 2u);
     EXPECT_EQ(dialogs.messages[0].text, kConfirmation);
-    EXPECT_EQ(dialogs.messages[0].title, base::kProductName);
     EXPECT_EQ(dialogs.messages[0].style, msgbox::kYesNo | msgbox::kQuestion);
     EXPECT_EQ(dialogs.messages[1].text, "マイ ネットワーク情報取得完了");
-    EXPECT_EQ(dialogs.messages[1].title, base::kProductName);
     EXPECT_EQ(dialogs.messages[1].style, msgbox::kInformation);
-    EXPECT_EQ(net.openEnumerations, 0);
-    EXPECT_EQ(winsock.started, 0);
-}
-
-TEST_F(ListNetworkPcsTest, OpensTheNetworkByItsProviderAndEachDomainByItsRecord) {
-    TwoWorkgroups();
-    Run();
-    ASSERT_EQ(net.opens.size(), 3u);
-    for (const auto& open : net.opens) {
-        EXPECT_EQ(open.scope, wnet::kScopeGlobalNet);
-        EXPECT_EQ(open.type, wnet::kTypeAny);
-        EXPECT_EQ(open.usage, 0u);
-    }
-    EXPECT_EQ(net.opens[0].container.provider, kProvider);
-    EXPECT_EQ(net.opens[0].container.remoteName, "");
-    EXPECT_EQ(net.opens[0].container.displayType, 0u);
-    EXPECT_EQ(net.opens[1].container.remoteName, "WORKGROUP");
-    EXPECT_EQ(net.opens[1].container.displayType, wnet::kDisplayTypeDomain);
-    EXPECT_EQ(net.opens[2].container.remoteName, "OFFICE");
+    EXPECT_EQ(net.openEnumerations, 0);  // every enumeration is closed
 }
 
 TEST_F(ListNetworkPcsTest, KeepsDomainsAtTheFirstLevelAndServersAtTheSecond) {
@@ -127,10 +107,8 @@ TEST_F(ListNetworkPcsTest, KeepsDomainsAtTheFirstLevelAndServersAtTheSecond) {
 TEST_F(ListNetworkPcsTest, ReadsEveryBatchOfAnEnumeration) {
     net.containers[kProvider].batches = {{Domain("A")}, {Domain("B")}};
     net.containers["A"].batches = {{Server("\\\\PC01")}, {Server("\\\\PC02")}};
-    net.containers["B"].batches = {};
     EXPECT_EQ(Run(), 2u);
     EXPECT_EQ(lstvPc.Cell(1, 0), "PC02");
-    EXPECT_EQ(Texts().back(), "マイ ネットワーク情報取得完了");
 }
 
 TEST_F(ListNetworkPcsTest, AFailedReadEndsThatLevelOnly) {
@@ -139,15 +117,6 @@ TEST_F(ListNetworkPcsTest, AFailedReadEndsThatLevelOnly) {
     net.containers["A"].batches = {{Server("\\\\PC01")}};
     net.containers["A"].endResult = 59;  // ERROR_UNEXP_NET_ERR
     EXPECT_EQ(Run(), 1u);
-    EXPECT_EQ(Texts().back(), "マイ ネットワーク情報取得完了");
-}
-
-TEST_F(ListNetworkPcsTest, APcThatDoesNotAnswerArpShowsItsAddress) {
-    net.containers[kProvider].batches = {{Domain("WORKGROUP")}};
-    net.containers["WORKGROUP"].batches = {{Server("\\\\PC03")}};
-    winsock.AddHost("PC03", {"192.168.1.13"});
-    Run();
-    EXPECT_EQ(AllRows(), (Rows{{"PC03", "192.168.1.13", "(SendARP call failed)", "WORKGROUP"}}));
 }
 
 TEST_F(ListNetworkPcsTest, APcWhoseNameDoesNotResolveHasNeitherAddressNorMac) {
@@ -158,21 +127,12 @@ TEST_F(ListNetworkPcsTest, APcWhoseNameDoesNotResolveHasNeitherAddressNorMac) {
     EXPECT_TRUE(arp.arpRequests.empty());
 }
 
-TEST_F(ListNetworkPcsTest, EachNameIsResolvedBetweenItsOwnStartAndStop) {
-    TwoWorkgroups();
-    Run();
-    EXPECT_THAT(winsock.calls, ElementsAre("startup 257", "byname PC01", "cleanup",  //
-                                           "startup 257", "byname PC02", "cleanup",  //
-                                           "startup 257", "byname SV01", "cleanup"));
-}
-
 TEST_F(ListNetworkPcsTest, WithoutWinsockThePcsAreListedByNameOnly) {
     TwoWorkgroups();
     winsock.startupResult = 10091;
     EXPECT_EQ(Run(), 3u);
     EXPECT_EQ(lstvPc.RowAt(0).cells, (std::vector<std::string>{"PC01", "", "", "WORKGROUP"}));
     EXPECT_TRUE(arp.arpRequests.empty());
-    EXPECT_THAT(Texts(), ElementsAre(kConfirmation, "マイ ネットワーク情報取得完了"));
 }
 
 TEST_F(ListNetworkPcsTest, AFailedWinsockStopIsReportedForEachPc) {
@@ -202,7 +162,6 @@ TEST_F(ListNetworkPcsTest, DecliningLeavesTheListUntouched) {
     EXPECT_EQ(AllRows(), (Rows{{"OLD", "1.2.3.4", "00:1:2:3:4:5", "GONE"}}));
     EXPECT_THAT(Texts(), ElementsAre(kConfirmation, kConfirmation));
     EXPECT_TRUE(net.opens.empty());
-    EXPECT_TRUE(winsock.calls.empty());
 }
 
 TEST_F(ListNetworkPcsTest, TheNetworkThatCannotBeOpenedIsErrorNumberOne) {
@@ -210,9 +169,7 @@ TEST_F(ListNetworkPcsTest, TheNetworkThatCannotBeOpenedIsErrorNumberOne) {
     // No container at all: 1222, no network, as on a PC without one.
     EXPECT_EQ(Run(), 0u);
     EXPECT_THAT(Texts(), ElementsAre(kConfirmation, "WNetOpenEnum Error No.1"));
-    EXPECT_EQ(dialogs.messages[1].title, base::kProductName);
     EXPECT_EQ(dialogs.messages[1].style, msgbox::kOkOnly);
-    EXPECT_EQ(net.opens.size(), 1u);
 }
 
 TEST_F(ListNetworkPcsTest, ADomainThatCannotBeOpenedIsErrorNumberTwoAndEndsTheRun) {
@@ -223,7 +180,6 @@ TEST_F(ListNetworkPcsTest, ADomainThatCannotBeOpenedIsErrorNumberTwoAndEndsTheRu
     EXPECT_EQ(lstvPc.Cell(0, 0), "PC01");
     EXPECT_EQ(lstvPc.Cell(1, 0), "PC02");
     EXPECT_THAT(Texts(), ElementsAre(kConfirmation, "WNetOpenEnum Error No.2"));
-    EXPECT_EQ(dialogs.messages[1].style, msgbox::kOkOnly);
     EXPECT_EQ(net.opens.size(), 3u);  // OFFICE is never opened
     EXPECT_EQ(net.openEnumerations, 0);
 }
@@ -233,7 +189,6 @@ TEST_F(ListNetworkPcsTest, AnErrorDuringTheRunIsListPcEnumError) {
     net.containers["OFFICE"].readThrows = true;
     EXPECT_EQ(Run(), 2u);
     EXPECT_THAT(Texts(), ElementsAre(kConfirmation, "listPcEnum Error"));
-    EXPECT_EQ(dialogs.messages[1].style, msgbox::kOkOnly);
     EXPECT_EQ(net.openEnumerations, 0);
 }
 
