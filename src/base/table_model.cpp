@@ -33,12 +33,6 @@ void TableModel::Replace(std::vector<Row> rows) {
     Changed(false);
 }
 
-void TableModel::SetIcon(std::size_t row, int icon) {
-    if (row >= m_rows.size()) return;
-    m_rows[row].icon = icon;
-    Changed(false);
-}
-
 void TableModel::ShowIconPerRow() {
     for (std::size_t row = 0; row < m_rows.size(); ++row) m_rows[row].icon = static_cast<int>(row);
     Changed(false);

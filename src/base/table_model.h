@@ -28,7 +28,6 @@ public:
     void Clear();
     // A whole rebuild (all rows removed, then all added) that the view hears of once.
     void Replace(std::vector<Row> rows);
-    void SetIcon(std::size_t row, int icon);
     // Row n shows image n; the view hears of it once.
     void ShowIconPerRow();
 

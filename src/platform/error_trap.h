@@ -1,6 +1,7 @@
 #pragma once
 // A routine's own error trap: when its body raises an error, the routine shows its own text in
-// an OK-only box with the program's title and returns as if it had finished.
+// an OK-only box with the program's title and returns as if it had finished. A routine without
+// a text of its own (null) returns quietly.
 #include <exception>
 
 #include "base/product.h"
@@ -15,7 +16,7 @@ bool TrapErrors(IDialogs& dialogs, const char* text, Body&& body) {
         body();
         return true;
     } catch (const std::exception&) {
-        dialogs.ShowMessage(text, base::kProductName, msgbox::kOkOnly);
+        if (text) dialogs.ShowMessage(text, base::kProductName, msgbox::kOkOnly);
         return false;
     }
 }

@@ -27,17 +27,13 @@ public:
         saveRequests.push_back(request);
         return saveAnswer;
     }
-    std::optional<base::Colour> ChooseColour() override {
-        ++colourRequests;
-        return colourAnswer;
-    }
+    std::optional<base::Colour> ChooseColour() override { return colourAnswer; }
     void SetClipboardText(const std::string& text) override { clipboard = text; }
 
     std::vector<AskedMessage> messages;
     std::deque<int> answers;  // answers to the next message boxes; OK when empty
     std::vector<platform::SaveFileRequest> saveRequests;
     std::optional<std::string> saveAnswer;
-    int colourRequests = 0;
     std::optional<base::Colour> colourAnswer;
     std::string clipboard;
 };

@@ -46,7 +46,6 @@ std::optional<std::uint64_t> FakeFileSystem::FileSize(const std::string& path) {
 std::unique_ptr<platform::IOutputFile> FakeFileSystem::Open(const std::string& path, platform::OpenMode mode) {
     const std::string key = Normalise(path);
     if (unwritable.count(key)) return nullptr;
-    ++opens;
     std::string& target = files[key];
     if (mode == platform::OpenMode::Output) target.clear();
     return std::make_unique<FakeOutputFile>(target);

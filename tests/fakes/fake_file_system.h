@@ -26,7 +26,6 @@ public:
     std::set<std::string> folders;
     std::set<std::string> unwritable;     // Open fails for these paths
     bool failFolderCreation = false;
-    int opens = 0;
 
     // Doubled separators name the same file, as on Windows.
     static std::string Normalise(const std::string& path);

@@ -1,31 +1,21 @@
 #include "fakes/fake_winsock.h"
 
-#include <array>
-#include <charconv>
+#include <cstdio>
 #include <cstring>
-
 
 namespace fakes {
 
 platform::InetAddress InetAddr(std::string_view text) {
-    constexpr platform::InetAddress kNone = 0xFFFFFFFF;
-    std::array<std::uint8_t, 4> bytes{};
-    const char* position = text.data();
-    const char* const end = text.data() + text.size();
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        if (i > 0) {
-            if (position == end || *position != '.') return kNone;
-            ++position;
-        }
-        unsigned value = 0;
-        const auto [next, error] = std::from_chars(position, end, value);
-        if (error != std::errc() || value > 255) return kNone;
-        bytes[i] = static_cast<std::uint8_t>(value);
-        position = next;
+    unsigned b[4];
+    char rest;
+    const std::string copy(text);
+    if (std::sscanf(copy.c_str(), "%3u.%3u.%3u.%3u%c", &b[0], &b[1], &b[2], &b[3], &rest) != 4 || b[0] > 255 ||
+        b[1] > 255 || b[2] > 255 || b[3] > 255) {
+        return 0xFFFFFFFF;
     }
-    if (position != end) return kNone;
+    const std::uint8_t bytes[4] = {std::uint8_t(b[0]), std::uint8_t(b[1]), std::uint8_t(b[2]), std::uint8_t(b[3])};
     platform::InetAddress address;
-    std::memcpy(&address, bytes.data(), sizeof address);
+    std::memcpy(&address, bytes, sizeof address);
     return address;
 }
 
@@ -39,16 +29,16 @@ int FakeWinsock::Cleanup() {
     return cleanupResult;
 }
 
-std::optional<platform::HostEntry> FakeWinsock::HostByName(const std::string& name) {
-    const auto found = byName.find(name);
-    if (found == byName.end()) return std::nullopt;
-    return found->second;
+template <typename Key>
+static std::optional<platform::HostEntry> Find(const std::map<Key, platform::HostEntry>& table, const Key& key) {
+    const auto found = table.find(key);
+    return found == table.end() ? std::nullopt : std::optional(found->second);
 }
 
+std::optional<platform::HostEntry> FakeWinsock::HostByName(const std::string& name) { return Find(byName, name); }
+
 std::optional<platform::HostEntry> FakeWinsock::HostByAddress(platform::InetAddress address) {
-    const auto found = byAddress.find(address);
-    if (found == byAddress.end()) return std::nullopt;
-    return found->second;
+    return Find(byAddress, address);
 }
 
 std::optional<std::string> FakeWinsock::HostName() { return hostName; }

@@ -29,9 +29,9 @@ private:
 
 }  // namespace
 
-platform::OpenedEnumeration FakeWNet::OpenEnum(std::uint32_t scope, std::uint32_t type, std::uint32_t usage,
+platform::OpenedEnumeration FakeWNet::OpenEnum(std::uint32_t, std::uint32_t, std::uint32_t,
                                                const platform::NetResource& container) {
-    opens.push_back({scope, type, usage, container});
+    ++opens;
     const std::string& key = container.remoteName.empty() ? container.provider : container.remoteName;
     const auto found = containers.find(key);
     if (found == containers.end()) return {1222, nullptr};

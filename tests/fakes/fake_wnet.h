@@ -17,18 +17,13 @@ struct FakeContainer {
 
 class FakeWNet : public platform::IWNet {
 public:
-    struct OpenCall {
-        std::uint32_t scope, type, usage;
-        platform::NetResource container;
-    };
-
     platform::OpenedEnumeration OpenEnum(std::uint32_t scope, std::uint32_t type, std::uint32_t usage,
                                          const platform::NetResource& container) override;
 
     // Keyed by the container's remote name; the network itself (no remote name) by its provider.
     // Opening a container that is not here fails with 1222, no network.
     std::map<std::string, FakeContainer> containers;
-    std::vector<OpenCall> opens;
+    int opens = 0;             // containers asked for
     int openEnumerations = 0;  // opened and not yet closed
 };
 

@@ -3,6 +3,8 @@
 // per tab, each registered once with the main window. A new tab adds its page here and one
 // registration line in the constructor. A tab whose rows show file icons owns a
 // platform::win32::IconList member, initialised with services.frmMain.ListHandle(its list).
+#include "app/program.h"
+#include "controls/demo_form.h"
 #include "mainwindow/main_window_model.h"
 #include "mainwindow/win32/frm_main.h"
 #include "network/connection_table.h"
@@ -18,8 +20,13 @@
 #include "platform/win32/message_pump.h"
 #include "platform/win32/processes.h"
 #include "platform/win32/registry.h"
+#include "platform/win32/native_handles.h"
+#include "platform/win32/program_settings.h"
 #include "platform/win32/winsock.h"
 #include "platform/win32/wnet.h"
+#include "processes/app_dictionary.h"
+#include "processes/applications_tab.h"
+#include "processes/appview_alert.h"
 
 namespace app {
 
@@ -31,6 +38,8 @@ struct SharedServices {
     platform::win32::IpHelper& ipHelper;
     platform::win32::Winsock& winsock;
     const mainwindow::FrmMain& frmMain;  // the list views
+    const Program& program;
+    controls::DemoForm& frmDemo;  // raises the alerts
 };
 
 class TabPages {
@@ -40,6 +49,9 @@ public:
     TabPages& operator=(const TabPages&) = delete;
 
 private:
+    // "アプリケーションの登録(&A)": the allowed-applications editor.
+    void OpenAppEditor();
+
     platform::win32::Processes m_processes;
     platform::win32::IconList m_taskIcons;
     processes::ProcessListPage m_processList;
@@ -51,6 +63,14 @@ private:
     system_items::StartupItemsPage m_startup;
     network::ConnectionTablePage m_connections;
     network::NetworkNeighbourhoodPage m_neighbourhood;
+    platform::win32::NativeHandles m_native;
+    platform::win32::ProgramSettings m_programSettings;
+    platform::win32::IconList m_applicationIcons;
+    processes::AppviewAlert m_appAlert;
+    processes::AppListFile m_appList;
+    processes::AppDictionary m_allowedApplications;
+    processes::ApplicationsTab m_applications;
+    SharedServices m_services;
 };
 
 }  // namespace app

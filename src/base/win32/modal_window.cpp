@@ -16,6 +16,15 @@ POINT CentredPosition(HWND owner, int width, int height) {
     return {x, y};
 }
 
+RECT ModalWindowRect(HWND owner, int clientWidth, int clientHeight) {
+    RECT frame{0, 0, clientWidth, clientHeight};
+    AdjustWindowRectEx(&frame, kModalStyle, FALSE, kModalExStyle);
+    const int width = frame.right - frame.left;
+    const int height = frame.bottom - frame.top;
+    const POINT at = CentredPosition(owner, width, height);
+    return {at.x, at.y, at.x + width, at.y + height};
+}
+
 void RunModal(HWND window, HWND owner, const bool& closed) {
     if (owner) EnableWindow(owner, FALSE);
     ShowWindow(window, SW_SHOW);

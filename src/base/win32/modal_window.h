@@ -4,6 +4,13 @@
 
 namespace base {
 
+// The frame of the program's modal windows: a caption with a close box, no resizing.
+inline constexpr DWORD kModalStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU;
+inline constexpr DWORD kModalExStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
+
+// The outer rectangle of a modal window with this client size, centred over the owner.
+RECT ModalWindowRect(HWND owner, int clientWidth, int clientHeight);
+
 // The top left corner of a window of this outer size centred over the owner (over the work
 // area when the owner is hidden), kept whole on the work area.
 POINT CentredPosition(HWND owner, int width, int height);

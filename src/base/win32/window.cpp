@@ -1,7 +1,6 @@
 #include "base/win32/window.h"
 
 #include "base/win32/fatal_error.h"
-#include "base/win32/modal_window.h"
 
 namespace base {
 
@@ -36,19 +35,6 @@ HWND Window::CreateWindowFor(DWORD exStyle, const wchar_t* className, const wcha
                                       ModuleInstance(), this);
     if (!hwnd) FatalSystemError(L"CreateWindowEx");
     return hwnd;
-}
-
-void Window::CreateDialogFrame(const wchar_t* className, const wchar_t* title, int clientWidth, int clientHeight,
-                               HWND owner) {
-    RegisterWindowClass(className);
-    const DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU;
-    const DWORD exStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
-    RECT frame{0, 0, clientWidth, clientHeight};
-    AdjustWindowRectEx(&frame, style, FALSE, exStyle);
-    const int width = frame.right - frame.left;
-    const int height = frame.bottom - frame.top;
-    const POINT at = CentredPosition(owner, width, height);
-    CreateWindowFor(exStyle, className, title, style, at.x, at.y, width, height, owner);
 }
 
 LRESULT Window::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

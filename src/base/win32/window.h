@@ -24,11 +24,6 @@ protected:
     HWND CreateWindowFor(DWORD exStyle, const wchar_t* className, const wchar_t* title, DWORD style, int x, int y,
                          int width, int height, HWND parent, HMENU menu = nullptr);
 
-    // Registers the class and creates a modal dialog's frame (caption and close box) whose client
-    // area has this size, centred over the owner.
-    void CreateDialogFrame(const wchar_t* className, const wchar_t* title, int clientWidth, int clientHeight,
-                           HWND owner);
-
     virtual LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
 private:

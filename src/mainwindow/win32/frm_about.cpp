@@ -33,7 +33,10 @@ FrmAbout::FrmAbout(AboutTexts texts, std::function<void()> openWebSite)
     : m_texts(std::move(texts)), m_openWebSite(std::move(openWebSite)) {}
 
 void FrmAbout::ShowModal(HWND owner) {
-    CreateDialogFrame(kClassName, base::Widen(m_texts.caption).c_str(), S(kWidth), S(kHeight), owner);
+    RegisterWindowClass(kClassName);
+    const RECT frame = base::ModalWindowRect(owner, S(kWidth), S(kHeight));
+    CreateWindowFor(base::kModalExStyle, kClassName, base::Widen(m_texts.caption).c_str(), base::kModalStyle,
+                    frame.left, frame.top, frame.right - frame.left, frame.bottom - frame.top, owner);
     CreateControls();
     m_closed = false;
     base::RunModal(Handle(), owner, m_closed);

@@ -37,7 +37,10 @@ HWND Group(HWND parent, const char* caption, int y, int height) {
 }  // namespace
 
 void FrmMachine::ShowModal(HWND owner) {
-    CreateDialogFrame(kClassName, L"ユーティリティ", S(kWidth), S(kHeight), owner);
+    RegisterWindowClass(kClassName);
+    const RECT frame = base::ModalWindowRect(owner, S(kWidth), S(kHeight));
+    CreateWindowFor(base::kModalExStyle, kClassName, L"ユーティリティ", base::kModalStyle, frame.left, frame.top,
+                    frame.right - frame.left, frame.bottom - frame.top, owner);
     CreateControls();
     m_panel.SetListener([this] { ShowPanel(); });
     ShowPanel();

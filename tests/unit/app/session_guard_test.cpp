@@ -57,7 +57,7 @@ TEST_F(SessionGuardTest, EachSessionWithAUserGetsARowAndNullSessionsAreIgnored) 
     EXPECT_EQ(sessions.serverPanel, "サーバ : RENAMED");
 }
 
-TEST_F(SessionGuardTest, MoreDataIsFollowedAndFailedCallsSkipTheirRecords) {
+TEST_F(SessionGuardTest, MoreDataIsFollowedFailedCallsSkipTheirRecordsAndNoSessionMeansOff) {
     net.sessionAnswers = {
         {platform::kErrorMoreData, {Session("A", "a")}, 1, 3},
         {5, {Session("IGNORED", "x")}, 1, 3},  // access denied: its records are not used
@@ -65,10 +65,7 @@ TEST_F(SessionGuardTest, MoreDataIsFollowedAndFailedCallsSkipTheirRecords) {
     };
     EXPECT_EQ(guard.Run("S"), 3);
     EXPECT_EQ(program.tray.tip, "[A][B][C]");
-}
 
-TEST_F(SessionGuardTest, NoSessionGivesTheOffIconAndTheMonitoringTip) {
-    program.tray.currentIcon = "veskarneton.ico";
     net.steadySessions = {50, {}, 0, 0};  // not supported; the counts were never written
     EXPECT_EQ(guard.Run("S"), 0);
     EXPECT_EQ(program.tray.currentIcon, "veskarnetoff.ico");

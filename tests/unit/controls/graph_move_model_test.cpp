@@ -130,16 +130,6 @@ TEST(GraphMove, RuntimeErrorsOfTheDrawing) {
     EXPECT_EQ(noGrid.Picture().size(), 1u);
 }
 
-TEST(GraphMove, NewBackColourErasesThePicture) {
-    GraphMoveModel graph = SmallGraph();
-    graph.setValue(4);
-    GraphProperties p = graph.Properties();
-    p.BackColor = base::kBlack;
-    graph.SetProperties(p);
-    EXPECT_TRUE(graph.Picture().empty());
-    EXPECT_EQ(graph.Values().size(), 2u);
-}
-
 TEST(GraphMoveProperties, DefaultsAreNotStoredAndEveryOtherValueRoundTrips) {
     PropertyBag defaults;
     GraphMoveModel().WriteProperties(defaults);
@@ -171,7 +161,7 @@ TEST(GraphMoveProperties, DefaultsAreNotStoredAndEveryOtherValueRoundTrips) {
     EXPECT_EQ(restored.Properties(), p);
 }
 
-TEST(GraphMoveProperties, InitPropertiesResetsTheGridRangeAndValues) {
+TEST(GraphMoveProperties, InitResetsTheGridRangeAndValuesAndABackColourErasesThePicture) {
     GraphMoveModel graph = SmallGraph();
     graph.setValue(7);
     graph.InitProperties();  // what every new graph runs
@@ -179,6 +169,13 @@ TEST(GraphMoveProperties, InitPropertiesResetsTheGridRangeAndValues) {
     EXPECT_EQ(graph.Properties().GridStep, 2.0f);
     EXPECT_EQ(graph.Properties().MaxValue, 100.0f);
     EXPECT_EQ(graph.Properties().GridColor, kGrid);
+
+    graph.setValue(4);
+    GraphProperties p = graph.Properties();
+    p.BackColor = base::kBlack;  // a new back colour erases the picture, not the values
+    graph.SetProperties(p);
+    EXPECT_TRUE(graph.Picture().empty());
+    EXPECT_EQ(graph.Values().size(), 2u);
 }
 
 }  // namespace

@@ -17,10 +17,7 @@ public:
 
     AlertScreen Screen() override { return screen; }
     void Move(const FormPlacement& twips) override { moves.push_back(twips); }
-    void SetLabel(const PixelRect& bounds, const std::string& caption) override {
-        labelBounds = bounds;
-        labelCaption = caption;
-    }
+    void SetLabel(const PixelRect& bounds, const std::string&) override { labelBounds = bounds; }
     void Paint(const AlertPicture& painted) override { picture = painted; }
     void SetRegion(const RoundRegion& clip) override { region = clip; }
     void SetAlpha(std::uint8_t alpha) override { alphas.push_back(alpha); }
@@ -31,7 +28,6 @@ public:
     AlertScreen screen;
     std::vector<FormPlacement> moves;
     std::optional<PixelRect> labelBounds;
-    std::string labelCaption;
     std::optional<AlertPicture> picture;
     std::optional<RoundRegion> region;
     std::vector<std::uint8_t> alphas;

@@ -8,18 +8,8 @@
 namespace logs {
 namespace {
 
-const base::LocalTime kDay{2005, 6, 22, 23, 59, 58};
+const base::LocalTime kDay{2005, 6, 22, 23, 59, 58};  // late in the day: the date, not the hour, names files
 const std::string kFolder = "C:\\Lookout\\logs\\";
-
-TEST(LogNames, EveryFamilyIsNamedByKindAndDate) {
-    EXPECT_EQ(LogsFolder("C:\\Lookout\\"), "C:\\Lookout\\logs");
-    EXPECT_EQ(AppendSaveBase(LogKind::Process, kDay), "process_log_20050622");
-    EXPECT_EQ(TemporaryFileName(LogKind::Startup, kDay), "startup_tmplog_20050622.txt");
-    EXPECT_EQ(AutomaticBase(LogKind::Application, kDay), "application20050622");
-    EXPECT_EQ(MainMonitorFileName(kDay, 12), "20050622-12.txt");
-    // The automatic log and the append-save of one tab are different files on purpose.
-    EXPECT_NE(AutomaticBase(LogKind::Application, kDay), AppendSaveBase(LogKind::Application, kDay));
-}
 
 class Rollover : public ::testing::Test {
 protected:

@@ -122,6 +122,10 @@ TEST_F(LogWriterTest, MainMonitorGoesToTheNextFreeNumber) {
     writer.SaveMainMonitor(table);
     EXPECT_EQ(File("20050622-3.txt"), "Veskar_Lookout v1.01\r\n[2005/06/22 09:05:03]  監視を開始しました。\r\n");
     EXPECT_EQ(files.Get(kLogs + "20050622-1.txt"), "old");
+
+    folder = "E:\\Other\\";  // the program folder is read at each save
+    writer.SaveMainMonitor(table);
+    EXPECT_TRUE(files.Has("E:\\Other\\logs\\20050622-1.txt"));
 }
 
 TEST_F(LogWriterTest, SaveAsProposesTheNextFileAndAppendsTxtCaseSensitively) {
@@ -143,13 +147,6 @@ TEST_F(LogWriterTest, SaveAsProposesTheNextFileAndAppendsTxtCaseSensitively) {
     writer.SaveMainMonitorAs(table, dialogs);
     EXPECT_TRUE(files.Has("D:\\kept.txt"));
     EXPECT_FALSE(files.Has("D:\\kept.txt.txt"));
-}
-
-TEST_F(LogWriterTest, TheProgramFolderIsReadAtEachSave) {
-    table.AddRow({"x"});
-    folder = "E:\\Other\\";
-    writer.SaveMainMonitor(table);
-    EXPECT_TRUE(files.Has("E:\\Other\\logs\\20050622-1.txt"));
 }
 
 }  // namespace
