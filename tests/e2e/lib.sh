@@ -101,30 +101,6 @@ e2e_start() {
     e2e_log "started $E2E_PROCESS (job $e2e_program_job)"
 }
 
-# Like e2e_start, with Wine logging every file opened by the program and the processes it starts,
-# for e2e_traced_writes.
-e2e_start_traced() {
-    WINEDEBUG=+pid,trace+file e2e_start "$@"
-}
-
-# The program-folder files opened for writing since e2e_start_traced, one "PID<TAB>NAME" line per
-# open, in order; PID is Wine's process id (hex). e2e_traced_first_process prints the id of the
-# process that was started (the first to appear in the log).
-e2e_traced_writes() {
-    local folder=Z:${E2E_PROGRAM_DIR//\//\\}\\
-    grep -a ':trace:file:CreateFileW L"' "$E2E_WORK/program.log" | grep -a 'GENERIC_WRITE' |
-        sed -n 's/^\([0-9a-f]*\):[0-9a-f]*:trace:file:CreateFileW L"\([^"]*\)".*/\1\t\2/p' |
-        sed 's/\\\\/\\/g; s/\\\+/\\/g' |
-        folder=$folder awk -F'\t' '{ folder = ENVIRON["folder"] }
-            index(tolower($2), tolower(folder)) == 1 {
-            name = substr($2, length(folder) + 1)
-            if (index(name, "\\") == 0) print $1 "\t" name
-        }'
-}
-e2e_traced_first_process() {
-    grep -a -m 1 -o '^[0-9a-f]\{4,\}:[0-9a-f]\{4,\}:' "$E2E_WORK/program.log" | cut -d: -f1
-}
-
 # Waits up to SECONDS for the process started by the last e2e_start to end; fails if it does not.
 # Its exit status is left in e2e_program_status.
 e2e_wait_program_end() {
@@ -217,23 +193,12 @@ E2E_MANIFEST=${E2E_PROCESS%.*}.exe.MANIFEST
 # ---------------------------------------------------------------------------------------------
 # Driver
 
-# Runs lookout_driver with the arguments and prints its output; the scenario fails with the
-# driver's reason when the driver fails. Capture with out=$(drive ...) (not `local out=$(...)`,
-# which would hide the failure).
-drive() {
-    local status=0
-    wine "$E2E_DRIVER" "$@" 2>"$E2E_WORK/driver.err" || status=$?
-    if [[ $status -ne 0 ]]; then
-        fail "lookout_driver $* -> exit $status: $(cat "$E2E_WORK/driver.err")"
-    fi
-}
+# Runs lookout_driver with the arguments, prints its output and returns its exit status.
+drive_status() { wine "$E2E_DRIVER" "$@" 2>"$E2E_WORK/driver.err"; }
 
-# Like drive, but returns the driver's exit status instead of failing.
-drive_status() {
-    local status=0
-    wine "$E2E_DRIVER" "$@" 2>"$E2E_WORK/driver.err" || status=$?
-    return "$status"
-}
+# Like drive_status, but the scenario fails with the driver's reason when the driver fails.
+# Capture with out=$(drive ...) (not `local out=$(...)`, which would hide the failure).
+drive() { drive_status "$@" || fail "lookout_driver $* -> exit $?: $(cat "$E2E_WORK/driver.err")"; }
 
 # Writes a screenshot of the whole virtual screen to WORK_DIR/NAME.png and prints its path.
 e2e_screenshot() {

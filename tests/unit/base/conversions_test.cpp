@@ -6,6 +6,7 @@
 
 #include "base/format.h"
 #include "base/runtime_error.h"
+#include "base/text_encoding.h"
 
 namespace base {
 namespace {
@@ -59,6 +60,13 @@ TEST(Conversions, NumberTextLikeTheRuntime) {
     EXPECT_EQ(NumberText(0.5), "0.5");
     EXPECT_EQ(NumberText(-0.0), "0");
     EXPECT_EQ(NumberText(1234.567), "1234.567");
+}
+
+TEST(TextEncoding, JapaneseRoundTripsThroughCodePage932) {
+    const std::string ansi = Utf8ToAnsi("ユーザ : 太郎");
+    EXPECT_EQ(ansi, "\x83\x86\x81\x5B\x83\x55 : \x91\xBE\x98\x59");
+    EXPECT_EQ(AnsiToUtf8(ansi), "ユーザ : 太郎");
+    EXPECT_EQ(Utf8ToAnsi("a😀b"), "a?b");  // not in the code page
 }
 
 TEST(Format, ThousandsRoundsAndGroups) {

@@ -4,16 +4,9 @@
 
 #include "fakes/fake_dialogs.h"
 #include "fakes/fake_winsock.h"
-#include "network/dotted_address.h"
 
 namespace network {
 namespace {
-
-TEST(DottedAddress, BytesAreUnsignedDecimalsWithoutPadding) {
-    const std::uint8_t high[] = {255, 128, 10, 1};
-    EXPECT_EQ(DottedAddress(high), "255.128.10.1");
-    EXPECT_EQ(DottedAddress({}), "");
-}
 
 class WinsockHelpers : public ::testing::Test {
 protected:
