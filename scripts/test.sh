@@ -76,6 +76,8 @@ command -v taskset >/dev/null && pin=(taskset -c "$(($(nproc) - 1))")
 # One refresh of the applications tab against a floor that makes the same walk calls directly,
 # under Wine on the same processor; the program prints the handle count and both times and fails over a ratio of 1.2.
 "${pin[@]}" bash tests/win/wine-run.sh "$root/windows-x64/tests/bench/lookout_applications_bench.exe"
+# The NETSTAT refresh with 1000 loopback connections against its table calls (a few seconds).
+bash tests/bench/netstat_refresh.sh "$root/windows-x64"
 
 trap - ERR
 # Test code against product code: non-blank, non-comment lines of C++ and shell under tests/ (the

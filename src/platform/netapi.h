@@ -48,3 +48,16 @@ public:
 };
 
 }  // namespace platform
+
+namespace platform {
+
+// The messenger service: a pop-up message to another PC.
+class IMessenger {
+public:
+    virtual ~IMessenger() = default;
+    // NetMessageBufferSend from this PC with UTF-16 copies of the texts, the message's length
+    // in bytes; returns the call's result (2273: no such name).
+    virtual std::uint32_t Send(const std::string& to, const std::string& from, const std::string& message) = 0;
+};
+
+}  // namespace platform

@@ -1,5 +1,6 @@
 #pragma once
 // The notification-area icon of the main window (icon identifier 1).
+#include <optional>
 #include <string>
 
 namespace platform {
@@ -24,6 +25,21 @@ class IRecentDocuments {
 public:
     virtual ~IRecentDocuments() = default;
     virtual void Clear() = 0;
+};
+
+}  // namespace platform
+
+namespace platform {
+
+// The current user's Startup folder and the shell's shortcut object.
+class IStartupFolder {
+public:
+    virtual ~IStartupFolder() = default;
+    // SHGetSpecialFolderLocation(CSIDL_STARTUP) and SHGetPathFromIDListA; nothing on failure.
+    virtual std::optional<std::string> Path() = 0;
+    // Saves a shortcut file to target with the shell's link object (IShellLinkW, IPersistFile),
+    // replacing a file of that name; false when any step fails.
+    virtual bool SaveShortcut(const std::string& file, const std::string& target) = 0;
 };
 
 }  // namespace platform

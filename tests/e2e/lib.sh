@@ -101,30 +101,6 @@ e2e_start() {
     e2e_log "started $E2E_PROCESS (job $e2e_program_job)"
 }
 
-# Like e2e_start, with Wine logging every file opened by the program and the processes it starts,
-# for e2e_traced_writes.
-e2e_start_traced() {
-    WINEDEBUG=+pid,trace+file e2e_start "$@"
-}
-
-# The program-folder files opened for writing since e2e_start_traced, one "PID<TAB>NAME" line per
-# open, in order; PID is Wine's process id (hex). e2e_traced_first_process prints the id of the
-# process that was started (the first to appear in the log).
-e2e_traced_writes() {
-    local folder=Z:${E2E_PROGRAM_DIR//\//\\}\\
-    grep -a ':trace:file:CreateFileW L"' "$E2E_WORK/program.log" | grep -a 'GENERIC_WRITE' |
-        sed -n 's/^\([0-9a-f]*\):[0-9a-f]*:trace:file:CreateFileW L"\([^"]*\)".*/\1\t\2/p' |
-        sed 's/\\\\/\\/g; s/\\\+/\\/g' |
-        folder=$folder awk -F'\t' '{ folder = ENVIRON["folder"] }
-            index(tolower($2), tolower(folder)) == 1 {
-            name = substr($2, length(folder) + 1)
-            if (index(name, "\\") == 0) print $1 "\t" name
-        }'
-}
-e2e_traced_first_process() {
-    grep -a -m 1 -o '^[0-9a-f]\{4,\}:[0-9a-f]\{4,\}:' "$E2E_WORK/program.log" | cut -d: -f1
-}
-
 # Waits up to SECONDS for the process started by the last e2e_start to end; fails if it does not.
 # Its exit status is left in e2e_program_status.
 e2e_wait_program_end() {

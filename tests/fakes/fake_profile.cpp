@@ -1,15 +1,13 @@
 #include "fakes/fake_profile.h"
 
 #include <sstream>
+#include <utility>
 #include <vector>
 
 namespace fakes {
 namespace {
 
-struct Section {
-    std::string name;
-    std::vector<std::string> lines;
-};
+using Section = std::pair<std::string, std::vector<std::string>>;  // name, "key=value" lines
 
 std::vector<Section> Parse(const std::string& text) {
     std::vector<Section> sections{{"", {}}};
@@ -18,9 +16,9 @@ std::vector<Section> Parse(const std::string& text) {
     while (std::getline(in, line)) {
         if (!line.empty() && line.back() == '\r') line.pop_back();
         if (line.size() >= 2 && line.front() == '[' && line.back() == ']') {
-            sections.push_back({line.substr(1, line.size() - 2), {}});
+            sections.emplace_back(line.substr(1, line.size() - 2), std::vector<std::string>{});
         } else if (!line.empty()) {
-            sections.back().lines.push_back(line);
+            sections.back().second.push_back(line);
         }
     }
     return sections;
@@ -28,70 +26,48 @@ std::vector<Section> Parse(const std::string& text) {
 
 std::string Render(const std::vector<Section>& sections) {
     std::string text;
-    for (const auto& s : sections) {
-        if (!s.name.empty()) text += "[" + s.name + "]\r\n";
-        for (const auto& l : s.lines) text += l + "\r\n";
+    for (const auto& [name, lines] : sections) {
+        if (!name.empty()) text += "[" + name + "]\r\n";
+        for (const auto& line : lines) text += line + "\r\n";
     }
     return text;
 }
 
-bool SameName(const std::string& a, const std::string& b) {
-    if (a.size() != b.size()) return false;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (std::tolower(static_cast<unsigned char>(a[i])) != std::tolower(static_cast<unsigned char>(b[i]))) {
-            return false;
-        }
+std::vector<std::string>& Lines(std::vector<Section>& sections, const std::string& name) {
+    for (auto& section : sections) {
+        if (section.first == name) return section.second;
     }
-    return true;
-}
-
-Section& FindOrAdd(std::vector<Section>& sections, const std::string& name) {
-    for (auto& s : sections) {
-        if (!s.name.empty() && SameName(s.name, name)) return s;
-    }
-    sections.push_back({name, {}});
-    return sections.back();
+    return sections.emplace_back(name, std::vector<std::string>{}).second;
 }
 
 }  // namespace
 
 std::string FakeProfile::ReadSection(const std::string& file, const std::string& section) {
+    auto sections = Parse(m_files.Get(file));
     std::string result;
-    for (const auto& s : Parse(m_files.Get(file))) {
-        if (s.name.empty() || !SameName(s.name, section)) continue;
-        for (const auto& l : s.lines) result += l + '\0';
-        break;
-    }
+    for (const auto& line : Lines(sections, section)) result += line + '\0';
     return result;
 }
 
 bool FakeProfile::WriteSection(const std::string& file, const std::string& section, const std::string& entries) {
     if (failWrites) return false;
     auto sections = Parse(m_files.Get(file));
-    Section& target = FindOrAdd(sections, section);
-    target.lines.clear();
-    std::size_t start = 0;
-    for (std::size_t at = entries.find('\0'); at != std::string::npos; at = entries.find('\0', start)) {
-        if (at > start) target.lines.push_back(entries.substr(start, at - start));
-        start = at + 1;
+    auto& lines = Lines(sections, section);
+    lines.clear();
+    std::istringstream in(entries);
+    for (std::string entry; std::getline(in, entry, '\0');) {
+        if (!entry.empty()) lines.push_back(entry);
     }
     m_files.Put(file, Render(sections));
     return true;
 }
 
+// Only ever used to fill a new file, so a key is appended, never replaced.
 bool FakeProfile::WriteString(const std::string& file, const std::string& section, const std::string& key,
                               const std::string& value) {
     if (failWrites) return false;
     auto sections = Parse(m_files.Get(file));
-    Section& target = FindOrAdd(sections, section);
-    for (auto& l : target.lines) {
-        if (SameName(l.substr(0, l.find('=')), key)) {
-            l = key + "=" + value;
-            m_files.Put(file, Render(sections));
-            return true;
-        }
-    }
-    target.lines.push_back(key + "=" + value);
+    Lines(sections, section).push_back(key + "=" + value);
     m_files.Put(file, Render(sections));
     return true;
 }

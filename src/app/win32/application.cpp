@@ -51,6 +51,8 @@ void Application::LoadMainWindow(const std::string& caption) {
     m_pages = std::make_unique<TabPages>(*m_model, SharedServices{m_dialogs, m_files, m_pump, m_ipHelper, m_winsock,
                                                                   *m_frmMain, m_program, m_frmDemo->Form()});
     m_menus = std::make_unique<HelpAndTrayMenus>(*m_model, *m_frmMain, *m_trayIcon, m_dialogs);
+    m_tools = std::make_unique<ToolCommands>(*m_model, m_frmMain->Handle(),
+                                             ToolServices{m_dialogs, m_instance, m_profile, m_program.folder});
     WireMainWindow();
     m_monitoring->LoadInterfaces();
     if (const auto local = network::LocalAddressText(m_winsock)) m_model->SetPanelText(1, *local);

@@ -11,6 +11,7 @@
 #include "app/startup.h"
 #include "app/win32/monitor_views.h"
 #include "app/win32/tab_pages.h"
+#include "app/win32/tool_commands.h"
 #include "app/winsock_client_lookup.h"
 #include "controls/win32/demo_window.h"
 #include "mainwindow/main_window_model.h"
@@ -77,6 +78,7 @@ private:
     std::unique_ptr<ProgramCommands> m_commands;
     std::unique_ptr<TabPages> m_pages;
     std::unique_ptr<HelpAndTrayMenus> m_menus;
+    std::unique_ptr<ToolCommands> m_tools;
 };
 
 }  // namespace app

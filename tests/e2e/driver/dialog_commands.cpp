@@ -51,6 +51,10 @@ void ClickButton(const Options& options) {
     Click(FindControl(WaitForTopLevelWindow(options), L"Button", options));
 }
 
+void PrintEnabled(const Options& options) {
+    PrintLine({IsWindowEnabled(FindControl(WaitForTopLevelWindow(options), L"Button", options)) ? "1" : "0"});
+}
+
 void SetCheck(const Options& options) {
     if (options.arguments.size() != 1 || (options.arguments[0] != "0" && options.arguments[0] != "1"))
         throw std::invalid_argument("check needs 1 (ticked) or 0 (clear)");
@@ -98,6 +102,7 @@ const std::vector<Command>& DialogCommands() {
         {"messagebox-click", "messagebox-click CAPTION  click a button of that dialog and wait until it closes",
          ClickMessageBoxButton},
         {"click", "click                   click a button (--caption, --id or --nth)", ClickButton},
+        {"enabled", "enabled                 1 if a button (--caption or --id) can be clicked, else 0", PrintEnabled},
         {"check", "check 1|0               tick or clear a check box by clicking it (--caption or --id)", SetCheck},
         {"set-text", "set-text TEXT           set the text of an edit (--id or --nth)", SetText},
         {"clipboard", "clipboard               the clipboard's text", PrintClipboard},

@@ -6,14 +6,9 @@ e2e_begin
 
 # Two loopback listeners on the Linux side (Wine lists host sockets); they end by themselves.
 ready=$E2E_WORK/listeners.ready
-python3 - "$ready" "$E2E_TIMEOUT" <<'PY' &
+python3 - "$ready" "$E2E_TIMEOUT" >"$E2E_WORK/listeners.log" 2>&1 <<'PY' &
 import socket, sys, time
-held = []
-for port in (8080, 50000):
-    s = socket.socket()
-    s.bind(("127.0.0.1", port))
-    s.listen(1)
-    held.append(s)
+held = [socket.create_server(("127.0.0.1", port)) for port in (8080, 50000)]
 open(sys.argv[1], "w").close()
 time.sleep(float(sys.argv[2]))
 PY
@@ -37,7 +32,5 @@ drive select-tab "${window[@]}" NETSTAT >/dev/null
 rows=$(drive listview-rows "${window[@]}" --visible-control)
 assert_line "$rows" $'TCP\t127.0.0.1\t8080\t0.0.0.0\t0\tLISTEN' "port 8080 exactly"
 assert_line "$rows" $'TCP\t127.0.0.1\t50001\t0.0.0.0\t0\tLISTEN' "port 50000 one more, as always shown"
-status=$(drive status "${window[@]}")
-assert_line "$status" $'4\tプロセス : '"$(wc -l <<<"$rows")" "panel 5 counts the rows"
 e2e_screenshot netstat_tab
 kill "$listeners"

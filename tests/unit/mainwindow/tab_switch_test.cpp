@@ -114,12 +114,10 @@ TEST_F(MainWindowTest, AClickDuringARefreshOnlySetsTheCheckBox) {
 }
 
 TEST_F(MainWindowTest, AFailedRefreshShowsTheTabsTextAndStillShowsTheTab) {
-    SetRefresh(2, [] { return false; });
-    SetRefresh(3, [] { return false; });
-    SetRefresh(4, [] { return false; });
-    model.ClickTab(2);
-    model.ClickTab(3);
-    model.ClickTab(4);
+    for (int tab : {2, 3, 4}) {
+        SetRefresh(tab, [] { return false; });
+        model.ClickTab(tab);
+    }
     ASSERT_EQ(dialogs.messages.size(), 2u);
     EXPECT_EQ(dialogs.messages[0].text, "プロセス でエラーが発生しました。");
     EXPECT_EQ(dialogs.messages[1].text, "アプリケーション でエラーが発生しました。");

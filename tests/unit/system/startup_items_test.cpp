@@ -13,23 +13,9 @@ namespace {
 using ::testing::ElementsAre;
 using platform::RegistryHive;
 
-constexpr const char* kRun = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
-constexpr const char* kRunServices = "Software\\Microsoft\\Windows\\CurrentVersion\\RunServices";
+const std::string kRun = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 
-base::RuntimeErrorNumber ErrorOf(const std::function<void()>& body) {
-    try {
-        body();
-    } catch (const base::RuntimeError& error) {
-        return error.Number();
-    }
-    ADD_FAILURE() << "no runtime error";
-    return {};
-}
-
-class StartupItemsTest : public ::testing::Test {
-protected:
-    fakes::FakeRegistry::Values& Key(RegistryHive hive, const char* path) { return registry.keys[{hive, path}]; }
-
+struct StartupItemsTest : ::testing::Test {
     fakes::FakeRegistry registry;
     fakes::FakeIconList icons;
     base::TableModel list;
@@ -38,46 +24,37 @@ protected:
 };
 
 TEST_F(StartupItemsTest, ListsTheFourLocationsInOrderWithTheirIcons) {
-    Key(RegistryHive::LocalMachine, kRunServices) = {{"svc", 1, "SYSTEM"}};
-    Key(RegistryHive::CurrentUser, kRun) = {{"tool", 1, "\"C:\\Program Files\\T\\tool.EXE\" /min"},
-                                            {"", 1, "rundll32 shell32.dll,Control_RunDLL"}};
-    Key(RegistryHive::CurrentUser, kRunServices);  // exists, empty
-    Key(RegistryHive::LocalMachine, kRun) = {{"broken", 1, "x", true}};
+    registry.keys[{RegistryHive::LocalMachine, kRun + "Services"}] = {{"svc", 1, "SYSTEM"}};
+    registry.keys[{RegistryHive::CurrentUser, kRun}] = {{"tool", 1, "\"C:\\P F\\t.EXE\" /m"}, {"", 1, "rundll32 a,b"}};
+    registry.keys[{RegistryHive::LocalMachine, kRun}] = {{"broken", 1, "x", true}};
     icons.noIcon = {"rundll32"};
     EXPECT_TRUE(page.Refresh());
-
     ASSERT_EQ(list.RowCount(), 4u);
-    EXPECT_THAT(list.RowAt(0).cells, ElementsAre("tool", "\"C:\\Program Files\\T\\tool.EXE\" /min", "User_Run"));
-    EXPECT_THAT(list.RowAt(1).cells, ElementsAre("", "rundll32 shell32.dll,Control_RunDLL", "User_Run"));
+    EXPECT_THAT(list.RowAt(0).cells, ElementsAre("tool", "\"C:\\P F\\t.EXE\" /m", "User_Run"));
+    EXPECT_THAT(list.RowAt(1).cells, ElementsAre("", "rundll32 a,b", "User_Run"));
     EXPECT_THAT(list.RowAt(2).cells, ElementsAre("broken", "Error", "Machine_Run"));
     EXPECT_THAT(list.RowAt(3).cells, ElementsAre("svc", "SYSTEM", "Machine_RunServices"));
-    EXPECT_THAT(icons.images, ElementsAre("C:\\Program Files\\T\\tool.EXE", "?", "Error", "?"));
-    for (std::size_t row = 0; row < list.RowCount(); ++row) EXPECT_EQ(list.Icon(row), static_cast<int>(row));
+    EXPECT_THAT(icons.images, ElementsAre("C:\\P F\\t.EXE", "?", "Error", "?"));
     EXPECT_EQ(logs, 1);
 }
 
-TEST_F(StartupItemsTest, FiftyOneNamesFitAFiftySecondRaisesTheSubscriptError) {
-    auto& values = Key(RegistryHive::CurrentUser, kRun);
+TEST_F(StartupItemsTest, FiftyOneNamesFitAFiftySecondAndAnExpandableStringRaiseErrors) {
+    auto& values = registry.keys[{RegistryHive::CurrentUser, kRun}];
     for (int i = 0; i < 51; ++i) values.push_back({"v" + std::to_string(i), 1, "a.exe"});
     page.Refresh();
     EXPECT_EQ(list.RowCount(), 51u);
-
+    const auto error = [&] {
+        try {
+            page.Refresh();
+        } catch (const base::RuntimeError& raised) {
+            return raised.Number();
+        }
+        return base::RuntimeErrorNumber{};
+    };
     values.push_back({"v51", 1, "a.exe"});
-    EXPECT_EQ(ErrorOf([&] { page.Refresh(); }), base::RuntimeErrorNumber::SubscriptOutOfRange);
-}
-
-TEST_F(StartupItemsTest, AnExpandableStringRaisesTheTypeMismatch) {
-    Key(RegistryHive::CurrentUser, kRun) = {{"env", platform::regtype::kExpandString, "%windir%\\a.exe"}};
-    EXPECT_EQ(ErrorOf([&] { page.Refresh(); }), base::RuntimeErrorNumber::TypeMismatch);
-    EXPECT_EQ(logs, 0);
-}
-
-TEST(ProgramPathOf, CutsThePathOutOfTheCommandLine) {
-    EXPECT_EQ(ProgramPathOf("\"C:\\A B\\x.exe\" -a \"b c\""), "C:\\A B\\x.exe");
-    EXPECT_EQ(ProgramPathOf("C:\\A B\\setup.exe.bak\\x.Exe"), "C:\\A B\\setup.exe.bak\\x.Exe");
-    EXPECT_EQ(ProgramPathOf("notepad file.txt"), "notepad");
-    EXPECT_EQ(ProgramPathOf("notepad"), "notepad");
-    EXPECT_EQ(ProgramPathOf(""), "");
+    EXPECT_EQ(error(), base::RuntimeErrorNumber::SubscriptOutOfRange);
+    values = {{"env", platform::regtype::kExpandString, "%windir%\\a.exe"}};
+    EXPECT_EQ(error(), base::RuntimeErrorNumber::TypeMismatch);
 }
 
 }  // namespace

@@ -1,0 +1,27 @@
+#pragma once
+// "スタートアップに登録(&S)": a shortcut to this program in the user's Startup folder, so that
+// it starts at logon.
+#include <string>
+
+#include "platform/dialogs.h"
+#include "platform/shell.h"
+
+namespace system_items {
+
+// The shortcut's file name: the executable's current name (without ".exe") + ".exe.lnk". The
+// double extension has always been there; kept so an existing shortcut is found and replaced.
+std::string ShortcutName(const std::string& executableName);
+
+// This executable: its folder (no trailing "\") and its name without ".exe".
+struct Executable {
+    std::string folder;
+    std::string name;
+};
+
+// Saves or replaces the shortcut; true when it got to the end.
+bool RegisterAtStartup(platform::IStartupFolder& startup, const Executable& executable);
+
+// The menu item: asks first, registers on Yes and says how it went.
+void mnuSUpTouroku_Click(platform::IDialogs& dialogs, platform::IStartupFolder& startup, const Executable& executable);
+
+}  // namespace system_items

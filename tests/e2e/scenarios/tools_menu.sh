@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# The utility panel fetches 127.0.0.1 from the echo page setting.ini names; a silent page ends in
+# time. Registration writes the Startup shortcut. (Never press 送信: it crashes under Wine.)
+source "$(dirname "$0")/../lib.sh"
+e2e_begin
+
+here=$(dirname "$0")/..
+python3 "$here/echo_server.py" "$E2E_WORK/echo.port" "$E2E_TIMEOUT" >/dev/null 2>&1 &
+python3 "$here/echo_server.py" "$E2E_WORK/silent.port" "$E2E_TIMEOUT" --silent >/dev/null 2>&1 &
+for _ in $(seq 50); do [[ -s $E2E_WORK/echo.port && -s $E2E_WORK/silent.port ]] && break; sleep 0.1; done
+[[ -s $E2E_WORK/echo.port && -s $E2E_WORK/silent.port ]] || fail "the echo servers did not start"
+
+use_echo_page() { # PORT_FILE
+    e2e_write_settings open=1 start=0 logflag=0
+    printf '[utility]\r\necho_url=http://127.0.0.1:%s/\r\n' "$(cat "$1")" >>"$E2E_PROGRAM_DIR/setting.ini"
+}
+panel=(--title ユーティリティ --process "$E2E_PROCESS")
+text_ip() { drive children "${panel[@]}" | awk -F'\t' '$2 == 200 {print $5}'; }
+get_button() { drive enabled "${panel[@]}" --caption 取得; }
+
+use_echo_page "$E2E_WORK/silent.port"
+e2e_start_shown
+window=(--title "$E2E_BANNER")
+computer=$(drive children "${window[@]}" | awk -F'\t' '$3 == "Edit" {print $5; exit}')
+
+drive menu-invoke "${window[@]}" ツール ユーティリティ >/dev/null
+assert_line "$(drive children "${panel[@]}" | cut -f2,5)" $'203\t'"$computer" "Text7: the main window's machine name"
+
+# A page that never answers: the window keeps answering and the button comes back by itself.
+drive click "${panel[@]}" --caption 取得 >/dev/null
+started=$SECONDS
+while [[ $(get_button) == 0 ]]; do
+    ((SECONDS - started < 30)) || fail "the request to a silent page did not end"
+done
+assert_eq "" "$(text_ip)" "a request without an answer leaves the parse of an empty reply"
+drive click "${panel[@]}" --caption 閉じる >/dev/null
+drive wait-gone "${panel[@]}"
+
+use_echo_page "$E2E_WORK/echo.port"
+drive menu-invoke "${window[@]}" ツール ユーティリティ >/dev/null
+drive click "${panel[@]}" --caption 取得 >/dev/null
+started=$SECONDS
+while [[ $(text_ip) != 127.0.0.1 ]]; do
+    ((SECONDS - started < 15)) || fail "TextIP is '$(text_ip)', not 127.0.0.1"
+done
+e2e_screenshot machine_panel
+drive click "${panel[@]}" --caption 閉じる >/dev/null
+drive wait-gone "${panel[@]}"
+
+drive menu-invoke "${window[@]}" ツール スタートアップに登録 >/dev/null
+drive messagebox-click --process "$E2E_PROCESS" "はい(&Y)" >/dev/null
+assert_line "$(drive messagebox --process "$E2E_PROCESS")" $'text\tスタートアップの登録に成功しました。' "the result"
+e2e_screenshot registered
+drive messagebox-click --process "$E2E_PROCESS" OK >/dev/null
+shortcut=$(find "$WINEPREFIX/drive_c/users" -ipath '*/startup/veskar_lookout.exe.lnk')
+[[ -n $shortcut ]] || fail "no veskar_lookout.exe.lnk in the Startup folder"
+strings -el "$shortcut" | grep -qi 'veskar_lookout.exe' || fail "the shortcut does not name the program"
