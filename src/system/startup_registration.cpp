@@ -1,6 +1,7 @@
 #include "system/startup_registration.h"
 
 #include "base/product.h"
+#include "base/runtime_error.h"
 
 namespace system_items {
 
@@ -10,9 +11,11 @@ std::string ShortcutName(const std::string& executableName) { return executableN
 
 bool RegisterAtStartup(platform::IStartupFolder& startup, const Executable& executable) {
     const auto folder = startup.Path();
-    if (!folder) return false;
-    return startup.SaveShortcut(*folder + "\\" + ShortcutName(executable.name),
-                                executable.folder + "\\" + executable.name + ".exe");
+    if (!folder || !startup.SaveShortcut(*folder + "\\" + ShortcutName(executable.name),
+                                         executable.folder + "\\" + executable.name + ".exe")) {
+        throw base::RuntimeError(base::RuntimeErrorNumber::PathFileAccess);
+    }
+    return true;
 }
 
 void mnuSUpTouroku_Click(platform::IDialogs& dialogs, platform::IStartupFolder& startup, const Executable& executable) {
@@ -20,10 +23,11 @@ void mnuSUpTouroku_Click(platform::IDialogs& dialogs, platform::IStartupFolder& 
                             msgbox::kYesNo | msgbox::kQuestion) != msgbox::kYes) {
         return;
     }
-    // Success, too, has always come with the exclamation icon.
-    const char* result = RegisterAtStartup(startup, executable) ? "スタートアップの登録に成功しました。"
-                                                              : "スタートアップの登録に失敗しました。";
-    dialogs.ShowMessage(result, base::kProductName, msgbox::kExclamation);
+    // Success, too, has always come with the exclamation icon. The registration raises rather than
+    // answers false, so its failure message "スタートアップの登録に失敗しました。" is never reached.
+    if (RegisterAtStartup(startup, executable)) {
+        dialogs.ShowMessage("スタートアップの登録に成功しました。", base::kProductName, msgbox::kExclamation);
+    }
 }
 
 }  // namespace system_items

@@ -18,10 +18,12 @@ struct Executable {
     std::string name;
 };
 
-// Saves or replaces the shortcut; true when it got to the end.
+// Saves or replaces the shortcut; true when it got to the end. Nothing traps a failure: a Startup
+// folder the shell cannot name or a shortcut that cannot be saved raises the runtime's path/file
+// access error, which ends in the runtime's error report as it always has.
 bool RegisterAtStartup(platform::IStartupFolder& startup, const Executable& executable);
 
-// The menu item: asks first, registers on Yes and says how it went.
+// The menu item: asks first, registers on Yes and says so.
 void mnuSUpTouroku_Click(platform::IDialogs& dialogs, platform::IStartupFolder& startup, const Executable& executable);
 
 }  // namespace system_items
