@@ -81,7 +81,6 @@ TEST(AlertModel, AStackThatWouldRiseAboveTheScreenStopsAtTheTop) {
     std::vector<std::unique_ptr<Alert>> below;
     for (int i = 0; i < 6; ++i) below.push_back(std::make_unique<Alert>(board, small));
     Alert seventh(board, small);
-    ASSERT_EQ(seventh.model.Slot(), 7);
     seventh.model.DisplayMessage("g", 4, false, true, true, kPink);
     EXPECT_EQ(TicksUntil(seventh.model, [&] { return seventh.model.Arrived(); }), 61);
     EXPECT_EQ(seventh.model.Placement().top, 0.0f);
