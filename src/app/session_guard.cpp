@@ -1,6 +1,7 @@
 #include "app/session_guard.h"
 
 #include <iterator>
+#include <vector>
 
 #include "app/traffic_text.h"
 #include "base/conversions.h"
@@ -140,12 +141,16 @@ void SessionGuard::AddOpenFileRows(const std::vector<platform::OpenFileInfo>& fi
 }
 
 void SessionGuard::AutosaveMainMonitor() {
+    base::TableModel& monitor = m_window.mainMonitor.Rows();
+    const std::size_t saved = monitor.RowCount();
     // During another save nothing was written: the rows stay for a later tick.
     if (!m_window.mainMonitor.Save()) return;
-    base::TableModel& monitor = m_window.mainMonitor.Rows();
-    monitor.Clear();
-    monitor.AddRow({base::kBanner});
-    monitor.AddRow({Stamp() + "  ログを自動保存しました。"});
+    // The list starts afresh with the banner. Rows that a tick added while the save pumped messages
+    // are not in the file: they stay, so that no event is lost.
+    std::vector<base::TableModel::Row> rows{{{base::kBanner}}};
+    for (std::size_t row = saved; row < monitor.RowCount(); ++row) rows.push_back(monitor.RowAt(row));
+    rows.push_back({{Stamp() + "  ログを自動保存しました。"}});
+    monitor.Replace(std::move(rows));
 }
 
 }  // namespace app

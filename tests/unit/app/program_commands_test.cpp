@@ -26,8 +26,6 @@ TEST_F(ProgramCommandsTest, ExitAsksAndOnNoDoesNothing) {
     EXPECT_FALSE(commands.Exit([] { FAIL(); }));
     ASSERT_EQ(dialogs.messages.size(), 1u);
     EXPECT_EQ(dialogs.messages[0].text, "終了してもよろしいですか？");
-    EXPECT_EQ(dialogs.messages[0].title, "Veskar_Lookout");
-    EXPECT_EQ(dialogs.messages[0].style, platform::msgbox::kYesNo | platform::msgbox::kQuestion);
     EXPECT_TRUE(monitor.savedRowCounts.empty());
     EXPECT_EQ(tray.removals, 0);
 }

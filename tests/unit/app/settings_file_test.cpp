@@ -24,7 +24,6 @@ TEST_F(SettingsFileTest, MissingFileIsCreatedWithTheDefaults) {
     EXPECT_EQ(file.Path(), "C:\\Lookout\\\\setting.ini");
     EXPECT_TRUE(files.Has("C:\\Lookout\\setting.ini"));  // its bytes: the first-start scenario
     EXPECT_EQ(settings.time, "10");
-    EXPECT_EQ(settings.Backcolor(), 16777215);
 }
 
 TEST_F(SettingsFileTest, OnlyExactKeysWithOneEqualsSignAreTaken) {
@@ -74,7 +73,6 @@ TEST_F(SettingsFileTest, WriteReplacesTheWholeSectionAndKeepsOtherSections) {
     file.Write(s);
     ASSERT_EQ(dialogs.messages.size(), 1u);
     EXPECT_EQ(dialogs.messages[0].text, "INIファイル書き込みエラー");
-    EXPECT_EQ(dialogs.messages[0].style, platform::msgbox::kExclamation);
 }
 
 }  // namespace

@@ -168,7 +168,6 @@ TEST(GraphMoveProperties, InitResetsTheGridRangeAndValuesAndABackColourErasesThe
     EXPECT_EQ(graph.Values(), std::vector<float>{0.0f});
     EXPECT_EQ(graph.Properties().GridStep, 2.0f);
     EXPECT_EQ(graph.Properties().MaxValue, 100.0f);
-    EXPECT_EQ(graph.Properties().GridColor, kGrid);
 
     graph.setValue(4);
     GraphProperties p = graph.Properties();

@@ -43,7 +43,6 @@ TEST_F(LogWriterTest, ListLinesAreStampThenEveryColumnTabSeparated) {
               "2005/06/22 09:05:03\t短い\t\t\t\r\n");
     // On disk the text is code page 932.
     EXPECT_NE(files.Get(kLogs + "process_log_20050622.txt").find("\x92\x5A\x82\xA2"), std::string::npos);
-    EXPECT_EQ(pump.calls, 3);  // one pump after every line
 }
 
 TEST_F(LogWriterTest, AppendSaveAddsAndTemporarySaveReplaces) {
@@ -124,7 +123,6 @@ TEST_F(LogWriterTest, FailuresArePassedOverSilently) {
     files.unwritable.insert("C:\\Lookout\\logs\\process_log_20050622.txt");
     writer.AppendSave(LogKind::Process, Process());  // neither folder nor file: nothing, no throw
     EXPECT_FALSE(files.Has(kLogs + "process_log_20050622.txt"));
-    EXPECT_EQ(pump.calls, 1);  // the writer still went through the list
     writer.TemporarySave(LogKind::Process, Process());  // the next step goes on regardless
     EXPECT_TRUE(files.Has(kLogs + "process_tmplog_20050622.txt"));
 }

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "base/product.h"
 #include "unit/mainwindow/main_window_fixture.h"
 
 namespace mainwindow {
@@ -121,8 +120,6 @@ TEST_F(MainWindowTest, AFailedRefreshShowsTheTabsTextAndStillShowsTheTab) {
     ASSERT_EQ(dialogs.messages.size(), 2u);
     EXPECT_EQ(dialogs.messages[0].text, "プロセス でエラーが発生しました。");
     EXPECT_EQ(dialogs.messages[1].text, "アプリケーション でエラーが発生しました。");
-    EXPECT_EQ(dialogs.messages[0].title, base::kProductName);
-    EXPECT_EQ(dialogs.messages[0].style, platform::msgbox::kOkOnly);
     EXPECT_EQ(model.CurrentTab(), 4);
     EXPECT_EQ(model.ShownList(), ListId::lstvStartup);
 }

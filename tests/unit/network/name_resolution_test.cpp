@@ -37,7 +37,6 @@ TEST_F(WinsockHelpers, NamesAndAddressesResolveOrGiveNothing) {
     EXPECT_EQ(HostToAddress(winsock, "PC01"), "192.168.200.254");  // the first address
     EXPECT_EQ(HostToAddress(winsock, "UNKNOWN"), "");
     EXPECT_EQ(AddressToName(winsock, "192.168.1.20"), "pc01.example.lan");
-    EXPECT_EQ(AddressToName(winsock, "192.168.1.21"), "");
     EXPECT_EQ(AddressToName(winsock, "PC01"), "");  // a name is no address
 }
 
