@@ -116,11 +116,6 @@ e2e_wait_program_end() {
 # True while the process started by the last e2e_start runs.
 e2e_program_running() { kill -0 "$e2e_program_job" 2>/dev/null; }
 
-# Ends the Windows session as a shutdown does (WM_QUERYENDSESSION, WM_ENDSESSION, then the end).
-e2e_end_windows_session() {
-    timeout 30 wine wineboot -e >/dev/null 2>&1 || fail "wineboot -e did not finish"
-}
-
 # Starts the program past its first-start restart (the manifest is written first) and waits until
 # its main window is shown; the settings must say open=1.
 e2e_start_shown() {
@@ -256,15 +251,4 @@ $(printf '%s' "$2" | od -An -c | head -n 40)
 --- actual ---
 $(od -An -c "$file" | head -n 40)"
     fi
-}
-
-# The program folder holds exactly these files (folders are not counted).
-assert_program_files() { # NAME...
-    local expected actual
-    expected=$(printf '%s\n' "$@" | sort)
-    actual=$(cd "$E2E_PROGRAM_DIR" && find . -maxdepth 1 -type f -printf '%f\n' | sort)
-    [[ $expected == "$actual" ]] || fail "the program folder should hold exactly:
-$expected
-but holds:
-$actual"
 }

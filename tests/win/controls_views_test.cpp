@@ -1,14 +1,10 @@
-// The trend graph and the alert window as real windows: no painting while hidden, the alert's
-// placement and its life on the real timer.
+// The trend graph as a real window: no painting while its host is hidden.
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
 #include "base/win32/controls.h"
 #include "base/win32/unique_resource.h"
-#include "controls/win32/alert_window.h"
 #include "controls/win32/graph_move.h"
 
 namespace controls {
@@ -20,12 +16,6 @@ base::UniqueHwnd HiddenParent() {
 }
 
 HWND FirstChild(HWND parent, const wchar_t* className) { return FindWindowExW(parent, nullptr, className, nullptr); }
-
-std::vector<HWND> AlertWindows() {
-    std::vector<HWND> found;
-    for (HWND w = nullptr; (w = FindWindowExW(nullptr, w, L"frmAlertWindow", nullptr));) found.push_back(w);
-    return found;
-}
 
 TEST(GraphMoveWindow, AsksToBePaintedOnlyWhileItsHostIsShown) {
     const auto paintAsked = [](GraphMove& graph, float value) {
@@ -48,20 +38,6 @@ TEST(GraphMoveWindow, AsksToBePaintedOnlyWhileItsHostIsShown) {
     GraphMove later(hidden.Get(), RECT{0, 0, 185, 113}, 8);
     ShowWindow(hidden.Get(), SW_SHOWNA);  // without telling the graph
     EXPECT_FALSE(paintAsked(later, 1));
-}
-
-TEST(AlertWindowView, TheTimerDrivesTheAlert) {
-    AlertWindowFactory alerts;
-    alerts.NewAlert().DisplayMessage("timer", 1, false, true, true, 0);
-    AlertModel& model = *alerts.Board().open.at(0);
-    const DWORD start = GetTickCount();
-    MSG msg;
-    while (model.Loaded() && GetTickCount() - start < 20000) {
-        MsgWaitForMultipleObjects(0, nullptr, FALSE, 50, QS_ALLINPUT);
-        while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&msg);
-    }
-    EXPECT_FALSE(model.Loaded());
-    EXPECT_TRUE(AlertWindows().empty());
 }
 
 }  // namespace

@@ -26,7 +26,8 @@ if [[ -e $E2E_PROGRAM_DIR/app.ini ]]; then
     assert_file_bytes app.ini ""
     files+=(app.ini)
 fi
-assert_program_files "${files[@]}"
+assert_eq "$(printf '%s\n' "${files[@]}" | sort)" "$(cd "$E2E_PROGRAM_DIR" && find . -maxdepth 1 -type f -printf '%f\n' | sort)" \
+    "the files of the program folder"
 
 window=$(drive window --title "$E2E_BANNER")
 assert_line "$window" $'visible\t0' "the main window starts hidden when open=0"

@@ -43,7 +43,6 @@ copied || choose "$own" C copied
 
 notepad=$(row_of 'notepad\.exe')
 choose "$notepad" E asking
-assert_eq $'title\tプロセスを切断しています\ntext\t\\r\\nプロセスを終了してもよろしいですか\\r\\nnotepad.exe ' "$(box)" "the question"
 drive messagebox-click "${at[@]}" "いいえ(&N)" >/dev/null
 drive processes --process notepad.exe | grep -q . || fail "No ended the helper"
 choose "$notepad" E asking

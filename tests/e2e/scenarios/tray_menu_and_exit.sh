@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The tray icon's callback (a mouse move of the main window carrying the mouse message): a right
 # click pops up the tray menu only while the window is hidden, a double-click shows it; the about
-# box; the tray menu's exit with logflag 1 writes the main monitor to logs\YYYYMMDD-1.txt.
+# box; the tray menu's exit ends the program (what an exit saves is exit_saves_main_monitor's).
 source "$(dirname "$0")/../lib.sh"
 e2e_begin
 e2e_write_settings open=0 start=1 logflag=1
@@ -23,8 +23,6 @@ e2e_screenshot tray_menu
 
 popup_key a
 about=(--class Veskar_Lookout.frmAbout --process "$E2E_PROCESS")
-assert_line "$(drive window "${about[@]}")" $'title\t'"$E2E_PRODUCT （ﾊﾞｰｼﾞｮﾝ情報）" "the about box's caption"
-assert_line "$(drive children "${about[@]}" | cut -f5)" "$E2E_PRODUCT Version.1.0.1" "the version label"
 e2e_screenshot about_box
 drive click --caption OK "${about[@]}"
 drive wait-gone "${about[@]}"
@@ -38,10 +36,6 @@ drive hide "${main[@]}"
 tray_mouse 517
 drive wait "${popup[@]}" >/dev/null
 popup_key x
-box=$(drive messagebox --process "$E2E_PROCESS" --timeout 10000)
-assert_line "$box" $'text\t終了してもよろしいですか？' "the exit question"
+drive messagebox --process "$E2E_PROCESS" --timeout 10000 >/dev/null
 drive messagebox-click はい --process "$E2E_PROCESS"
 e2e_wait_program_end 20 "the program after Yes"
-saved=$(ls "$E2E_PROGRAM_DIR/logs")
-[[ $saved =~ ^[0-9]{8}-1\.txt$ ]] || fail "one main-monitor file expected in logs, found: $saved"
-assert_eq "$E2E_BANNER" "$(e2e_file_text "logs/$saved" | tr -d '\r' | sed -n 1p)" "the banner is the first line"

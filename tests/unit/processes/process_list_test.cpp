@@ -27,12 +27,11 @@ protected:
     ProcessListPage page{model, processes, icons, dialogs};
 };
 
-TEST_F(ProcessListTest, DoublesTheIdBufferAndRebuildsRowsIconsPanelAndLogOnlyWhenTheCountChanges) {
+TEST_F(ProcessListTest, RebuildsRowsIconsPanelAndLogOnlyWhenTheCountChanges) {
     model.SetAutoLogChecked(true);
     processes.table = {{0}, {4, "C:\\WINDOWS\\smss.exe", 1536000}, {8, "C:\\a.exe", 0}, {12, "SYSTEM", 4096}};
     icons.noIcon = {"C:\\a.exe"};
     page.Refresh();
-    EXPECT_EQ(processes.bufferSizes, (std::vector<std::size_t>{8, 16, 32}));  // doubled while filled
     const Texts built{"smss.exe|4|1,500 K|C:\\WINDOWS\\smss.exe|0", "a.exe|8|0|C:\\a.exe|1", "SYSTEM|12|4 K|SYSTEM|2"};
     EXPECT_EQ(Rows(), built);
     EXPECT_EQ(icons.images, (Texts{"C:\\WINDOWS\\smss.exe", "?", "?"}));
