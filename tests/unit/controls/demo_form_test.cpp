@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "base/runtime_error.h"
 #include "fakes/fake_alert_factory.h"
+#include "unit/expect_runtime_error.h"
 
 namespace controls {
 namespace {
@@ -29,12 +29,8 @@ TEST(DemoForm, Command1IsAFourSecondSquareAlertAndCommand2WaitsForAClick) {
                                     {kSession, 0, true, true, false, base::Rgb(255, 200, 200)},
                                 }));
     EXPECT_EQ(alerts.alerts.size(), 3u);  // a new alert each time
-    try {
-        form.OptColorClick(4);  // four colours, 0 to 3
-        FAIL() << "no subscript error";
-    } catch (const base::RuntimeError& error) {
-        EXPECT_EQ(error.Number(), base::RuntimeErrorNumber::SubscriptOutOfRange);
-    }
+    // Four colours, 0 to 3.
+    ExpectRuntimeError(base::RuntimeErrorNumber::SubscriptOutOfRange, [&] { form.OptColorClick(4); });
 }
 
 TEST(DemoForm, AppviewIsAFadingTealAlert) {
