@@ -1,6 +1,6 @@
 #pragma once
-// Alerts that only remember what they were asked: every DisplayMessage and every assignment
-// to CloseActivate. For code that raises alerts through frmDemo.
+// Alerts that only remember what they were asked: every DisplayMessage (in the factory's log)
+// and every assignment to CloseActivate. For code that raises alerts through frmDemo.
 #include <deque>
 #include <memory>
 #include <string>
@@ -23,13 +23,11 @@ public:
     explicit FakeAlert(std::vector<DisplayedMessage>& log) : m_log(log) {}
     void DisplayMessage(const std::string& Message, std::int32_t TimeOut, bool Fade, bool Reserved, bool Square,
                         base::Colour BackColor) override {
-        displayed.push_back({Message, TimeOut, Fade, Reserved, Square, BackColor});
-        m_log.push_back(displayed.back());
+        m_log.push_back({Message, TimeOut, Fade, Reserved, Square, BackColor});
     }
     void SetCloseActivate(bool value) override { closeActivate.push_back(value); }
     bool CloseActivate() const override { return false; }
 
-    std::vector<DisplayedMessage> displayed;
     std::vector<bool> closeActivate;
 
 private:

@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "app/interface_list.h"
-#include "base/runtime_error.h"
 #include "fakes/fake_dialogs.h"
 #include "fakes/fake_file_system.h"
 #include "fakes/fake_profile.h"
+#include "unit/expect_runtime_error.h"
 
 namespace app {
 namespace {
@@ -65,12 +65,8 @@ TEST_F(OptionsModelTest, AListThatCannotBeWrittenRaisesAnErrorBeforeTheSettingsA
     model.interval = "7";
     for (const char* list : {"C:\\L\\pcset.ini", "C:\\L\\pcset2.ini"}) {
         files.unwritable = {list};
-        try {
-            model.Ok();
-            ADD_FAILURE() << list << " failed silently";
-        } catch (const base::RuntimeError& error) {
-            EXPECT_EQ(error.Number(), base::RuntimeErrorNumber::PathFileAccess);
-        }
+        SCOPED_TRACE(list);
+        ExpectRuntimeError(base::RuntimeErrorNumber::PathFileAccess, [&] { model.Ok(); });
         EXPECT_EQ(files.Get("C:\\L\\setting.ini"), settings);
     }
 }

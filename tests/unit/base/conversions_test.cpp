@@ -5,20 +5,11 @@
 #include <cmath>
 
 #include "base/format.h"
-#include "base/runtime_error.h"
 #include "base/text_encoding.h"
+#include "unit/expect_runtime_error.h"
 
 namespace base {
 namespace {
-
-void ExpectError(RuntimeErrorNumber number, auto&& call) {
-    try {
-        call();
-        FAIL() << "no runtime error";
-    } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.Number(), number);
-    }
-}
 
 TEST(Conversions, WholeNumbersRoundHalfToEven) {
     EXPECT_EQ(ToInt16(2.5), 2);
@@ -27,10 +18,10 @@ TEST(Conversions, WholeNumbersRoundHalfToEven) {
 }
 
 TEST(Conversions, OutOfRangeRaisesOverflow) {
-    ExpectError(RuntimeErrorNumber::Overflow, [] { ToInt16(32767.5); });  // rounds to 32768
-    ExpectError(RuntimeErrorNumber::Overflow, [] { ToByte(-0.6); });
-    ExpectError(RuntimeErrorNumber::Overflow, [] { ToInt32(2147483648.0); });
-    ExpectError(RuntimeErrorNumber::Overflow, [] { ToInt16(INFINITY); });
+    ExpectRuntimeError(RuntimeErrorNumber::Overflow, [] { ToInt16(32767.5); });  // rounds to 32768
+    ExpectRuntimeError(RuntimeErrorNumber::Overflow, [] { ToByte(-0.6); });
+    ExpectRuntimeError(RuntimeErrorNumber::Overflow, [] { ToInt32(2147483648.0); });
+    ExpectRuntimeError(RuntimeErrorNumber::Overflow, [] { ToInt16(INFINITY); });
 }
 
 TEST(Conversions, TextMustBeANumber) {
@@ -38,8 +29,8 @@ TEST(Conversions, TextMustBeANumber) {
     EXPECT_EQ(ToInt16(std::string_view("&HFFFF")), -1);  // short hex literals are 16-bit
     EXPECT_EQ(ToInt32(std::string_view("&HFFFFFF")), 16777215);
     EXPECT_EQ(ToInt32(std::string_view("1,000")), 1000);
-    ExpectError(RuntimeErrorNumber::TypeMismatch, [] { ToByte(std::string_view("")); });
-    ExpectError(RuntimeErrorNumber::TypeMismatch, [] { ToByte(std::string_view("1x")); });
+    ExpectRuntimeError(RuntimeErrorNumber::TypeMismatch, [] { ToByte(std::string_view("")); });
+    ExpectRuntimeError(RuntimeErrorNumber::TypeMismatch, [] { ToByte(std::string_view("1x")); });
 }
 
 TEST(Conversions, ValReadsTheLeadingNumberAndIgnoresBlanks) {

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "base/runtime_error.h"
+#include "unit/expect_runtime_error.h"
 #include "recording_alert_surface.h"
 
 namespace controls {
@@ -81,7 +81,6 @@ TEST(AlertModel, AStackThatWouldRiseAboveTheScreenStopsAtTheTop) {
     std::vector<std::unique_ptr<Alert>> below;
     for (int i = 0; i < 6; ++i) below.push_back(std::make_unique<Alert>(board, small));
     Alert seventh(board, small);
-    ASSERT_EQ(seventh.model.Slot(), 7);
     seventh.model.DisplayMessage("g", 4, false, true, true, kPink);
     EXPECT_EQ(TicksUntil(seventh.model, [&] { return seventh.model.Arrived(); }), 61);
     EXPECT_EQ(seventh.model.Placement().top, 0.0f);
@@ -161,12 +160,8 @@ TEST(AlertModel, TimeOutTimesHundredMustFitIn32Bits) {
     alert.model.DisplayMessage("long", 21474836, false, true, true, kPink);
     EXPECT_EQ(alert.model.TicksLeft(), 2147483600);
     Alert tooLong(board);
-    try {
-        tooLong.model.DisplayMessage("too long", 21474837, false, true, true, kPink);
-        FAIL() << "no overflow";
-    } catch (const base::RuntimeError& error) {
-        EXPECT_EQ(error.Number(), base::RuntimeErrorNumber::Overflow);
-    }
+    ExpectRuntimeError(base::RuntimeErrorNumber::Overflow,
+                       [&] { tooLong.model.DisplayMessage("too long", 21474837, false, true, true, kPink); });
     EXPECT_EQ(tooLong.surface.timerStarts, 0);
 }
 

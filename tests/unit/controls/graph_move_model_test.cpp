@@ -2,19 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "base/runtime_error.h"
+#include "unit/expect_runtime_error.h"
 
 namespace controls {
 namespace {
-
-void ExpectError(base::RuntimeErrorNumber number, auto&& call) {
-    try {
-        call();
-        FAIL() << "no runtime error";
-    } catch (const base::RuntimeError& error) {
-        EXPECT_EQ(error.Number(), number);
-    }
-}
 
 // A graph whose scale is 150 x 75 units over 10 x 5 pixels of 15 twips: one unit is one twip
 // both ways, so the measures below come out as given.
@@ -110,12 +101,12 @@ TEST(GraphMove, RuntimeErrorsOfTheDrawing) {
     GraphProperties p = graph.Properties();
     p.MaxValue = p.MinValue = 5;
     graph.SetProperties(p);
-    ExpectError(base::RuntimeErrorNumber::DivisionByZero, [&] { graph.setValue(5); });
+    ExpectRuntimeError(base::RuntimeErrorNumber::DivisionByZero, [&] { graph.setValue(5); });
     EXPECT_EQ(graph.Values(), (std::vector<float>{0, 5}));  // stored before the redraw failed
     p.innerHeight = 0;  // no height makes the step zero: the capacity fails first
     graph.SetProperties(p);
-    ExpectError(base::RuntimeErrorNumber::DivisionByZero, [&] { graph.setValue(5); });
-    ExpectError(base::RuntimeErrorNumber::Overflow, [&] { graph.Redraw(); });  // 0 / 0
+    ExpectRuntimeError(base::RuntimeErrorNumber::DivisionByZero, [&] { graph.setValue(5); });
+    ExpectRuntimeError(base::RuntimeErrorNumber::Overflow, [&] { graph.Redraw(); });  // 0 / 0
 
     // The grid loops count in 16 bits: 32759 is the last line, but the counter steps to 32769.
     GraphMoveModel wide = SmallGraph(10, 30, 50);
@@ -123,7 +114,7 @@ TEST(GraphMove, RuntimeErrorsOfTheDrawing) {
     p.innerWidth = 32760;
     wide.SetProperties(p);
     wide.SetClientSize(2184, 5);
-    ExpectError(base::RuntimeErrorNumber::Overflow, [&] { wide.Redraw(); });
+    ExpectRuntimeError(base::RuntimeErrorNumber::Overflow, [&] { wide.Redraw(); });
 
     GraphMoveModel noGrid = SmallGraph(0.2f, 0.4f, 50);  // spacings that round to 0 draw no lines
     noGrid.setValue(5);

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "base/runtime_error.h"
 #include "fakes/fake_file_system.h"
+#include "unit/expect_runtime_error.h"
 
 namespace logs {
 namespace {
@@ -39,12 +39,7 @@ public:
 
 TEST(RolloverCounter, PassingSixteenBitsRaisesOverflow) {
     FullSeries files;
-    try {
-        RolloverPath(files, kFolder, "process_log_20050622");
-        FAIL() << "no overflow";
-    } catch (const base::RuntimeError& error) {
-        EXPECT_EQ(error.Number(), base::RuntimeErrorNumber::Overflow);
-    }
+    ExpectRuntimeError(base::RuntimeErrorNumber::Overflow, [&] { RolloverPath(files, kFolder, "process_log_20050622"); });
 }
 
 TEST(MainMonitorNumber, TheLowestFreeNumberFromOne) {

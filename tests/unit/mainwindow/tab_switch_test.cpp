@@ -13,7 +13,6 @@ constexpr MenuItem kTemporaryItems[] = {mnuIP, mnuIA, mnuIIS, mnuIN, mnuIM};
 TEST_F(MainWindowTest, LoadShowsTheMainMonitorWithEverythingStopped) {
     EXPECT_EQ(model.CurrentTab(), 0);
     EXPECT_EQ(model.ShownList(), ListId::lstvMain);
-    EXPECT_EQ(model.PanelText(4), "ログ間隔 : 10秒");
     for (const FormTimer timer : kTabTimers) EXPECT_FALSE(model.TimerRunning(timer));
     EXPECT_TRUE(model.TimerEnabled(FormTimer::Timer1));  // the monitoring timers are created enabled
     EXPECT_TRUE(model.MenuEnabled(mnuFMain));

@@ -20,13 +20,7 @@ constexpr const char* kConfirmation =
     "\r\nマイ ネットワーク情報の取得には数分間\r\n\r\nかかることがございます。\r\n\r\n実行してもよろしいでしょうか？\r\n";
 
 platform::NetResource Record(std::uint32_t displayType, std::uint32_t usage, const std::string& remoteName) {
-    platform::NetResource record;
-    record.scope = wnet::kScopeGlobalNet;
-    record.displayType = displayType;
-    record.usage = usage;
-    record.remoteName = remoteName;
-    record.provider = kProvider;
-    return record;
+    return {wnet::kScopeGlobalNet, 0, displayType, usage, "", remoteName, "", kProvider};
 }
 platform::NetResource Domain(const std::string& name) {
     return Record(wnet::kDisplayTypeDomain, wnet::kUsageContainer, name);
