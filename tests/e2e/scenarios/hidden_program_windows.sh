@@ -1,9 +1,13 @@
 #!/usr/bin/env bash
-# Alerts raised through the hidden alert form stack in slots 1 to 3 at the bottom-right corner of
-# the work area without taking the focus; one that waits for a click leaves when it is clicked, and
-# a four-second alert takes the freed slot and leaves by itself.
+# The hidden program's own windows. Alerts raised through the hidden alert form stack in slots 1 to
+# 3 at the bottom-right corner of the work area without taking the focus; one that waits for a
+# click leaves when it is clicked, and a four-second alert takes the freed slot and leaves by
+# itself. The tray icon's callback (a mouse move of the main window carrying the mouse message): a
+# right click pops up the tray menu only while the window is hidden, a double-click shows it; the
+# about box; the tray menu's exit ends the program (what an exit saves is program_ends').
 source "$(dirname "$0")/../lib.sh"
 e2e_begin
+e2e_write_settings open=0 start=1 logflag=1
 e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
 e2e_start
 
@@ -67,3 +71,36 @@ lasted=$(((${EPOCHREALTIME/./} - started) / 1000))
 ((lasted >= 3500)) || fail "the four-second alert left after only $lasted ms"
 [[ $(drive windows --class frmAlertWindow --visible | wc -l) -eq 2 ]] || fail "the waiting alerts stay"
 e2e_log "the four-second alert stayed $lasted ms"
+
+main=(--title "$E2E_BANNER" --timeout 20000)
+popup=(--class '#32768' --process "$E2E_PROCESS")
+tray_mouse() { drive post 0x200 1 "$1" "${main[@]}"; } # WM_MOUSEMOVE, icon 1, the mouse message
+popup_key() { drive post 0x102 "$(printf '0x%x' "'$1")" 0 "${popup[@]}"; } # WM_CHAR: the access key
+
+drive wait "${main[@]}" >/dev/null
+
+tray_mouse 517
+drive wait "${popup[@]}" >/dev/null
+menu=$(drive menu "${popup[@]}" | cut -f3 | paste -sd'|')
+assert_eq "Veskar_Lookoutを開く(&O)||ユーティリティ(&U)|最近使ったファイルの削除(&R)||Veskar_Lookoutを終了する(&X)||\
+バージョン情報(&A)|Veskar Development WEBサイト(&W)" "$menu" "the tray menu"
+e2e_screenshot tray_menu
+
+popup_key a
+about=(--class Veskar_Lookout.frmAbout --process "$E2E_PROCESS")
+e2e_screenshot about_box
+drive click --caption OK "${about[@]}"
+drive wait-gone "${about[@]}"
+
+tray_mouse 515
+drive wait --visible "${main[@]}" >/dev/null
+tray_mouse 517
+drive_status wait "${popup[@]}" --timeout 1500 2>/dev/null && fail "a right click while the window is shown shows no menu"
+drive hide "${main[@]}"
+
+tray_mouse 517
+drive wait "${popup[@]}" >/dev/null
+popup_key x
+drive messagebox --process "$E2E_PROCESS" --timeout 10000 >/dev/null
+drive messagebox-click はい --process "$E2E_PROCESS"
+e2e_wait_program_end 20 "the program after Yes"
