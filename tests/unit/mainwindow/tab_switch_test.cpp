@@ -88,11 +88,9 @@ TEST_F(MainWindowTest, ClickingTheShownTabDoesNothingButForTheMainMonitor) {
 
 TEST_F(MainWindowTest, AClickDuringARefreshOnlySetsTheCheckBox) {
     SetRefresh(2, [&] {
-        EXPECT_TRUE(model.Busy());
         // The refresh pumps messages; the user clicks My Network meanwhile.
         model.ClickTab(6);
         EXPECT_EQ(model.CurrentTab(), 0);
-        EXPECT_FALSE(model.AutoLogEnabled());
         return true;
     });
     model.ClickTab(2);
