@@ -20,8 +20,7 @@ class SessionGuardTest : public ::testing::Test, protected ::fakes::MonitoringRi
 protected:
     SessionGuardTest() {
         program.settings = DefaultSettings();
-        program.allowList[0] = "NG";
-        program.denyList[0] = "NG";
+        program.allowList[0] = program.denyList[0] = "NG";
         traffic.labels[0] = "1234567";
         traffic.labels[1] = "500";
     }
