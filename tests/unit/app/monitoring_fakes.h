@@ -23,6 +23,7 @@ public:
     base::TableModel& Rows() override { return rows; }
     bool Save() override {
         if (saveWrites) savedRowCounts.push_back(rows.RowCount());
+        if (duringSave) duringSave();  // the save pumps messages: a tick may add rows
         return saveWrites;
     }
     void SaveBeforeSessionEnd() override { sessionEndSaveRowCounts.push_back(rows.RowCount()); }
@@ -32,6 +33,7 @@ public:
     base::TableModel rows;
     std::vector<std::size_t> savedRowCounts, sessionEndSaveRowCounts;
     bool saveWrites = true;  // false: another save is under way
+    std::function<void()> duringSave;
 };
 
 class FakeSessionWindow : public app::ISessionWindow {

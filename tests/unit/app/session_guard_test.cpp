@@ -176,9 +176,11 @@ TEST_F(SessionGuardTest, MainMonitorPastTenThousandRowsIsSavedAndStartedAfresh) 
     EXPECT_EQ(monitor.rows.RowCount(), 10001u);
 
     monitor.saveWrites = true;
+    monitor.duringSave = [&] { monitor.rows.AddRow({"added during the save"}); };
     guard.LogOpenFiles();
     EXPECT_EQ(monitor.savedRowCounts, std::vector<std::size_t>{10001});
-    EXPECT_EQ(Rows(), (std::vector<std::string>{base::kBanner, "[2005/06/22 09:05:03]  ログを自動保存しました。"}));
+    EXPECT_EQ(Rows(), (std::vector<std::string>{base::kBanner, "added during the save",
+                                                "[2005/06/22 09:05:03]  ログを自動保存しました。"}));
 }
 
 }  // namespace
