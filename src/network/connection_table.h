@@ -34,8 +34,6 @@ public:
                         std::function<void()> automaticLog)
         : m_dialogs(dialogs), m_ipHelper(ipHelper), m_list(lstvAddPort), m_automaticLog(std::move(automaticLog)) {}
     bool Refresh() override;
-    // The tab's timer counts the applications' ports; it does not refresh this list.
-    bool TimerRefresh() override { return true; }
 
 private:
     platform::IDialogs& m_dialogs;

@@ -16,7 +16,6 @@ struct FakeProcess {
 
 struct FakeProcesses : platform::IProcesses {
     void EnumProcessIds(std::span<std::uint32_t> ids, std::uint32_t& bytesFilled) override {
-        bufferSizes.push_back(ids.size_bytes());
         const std::size_t n = std::min(ids.size(), table.size());
         for (std::size_t i = 0; i < n; ++i) ids[i] = table[i].id;
         bytesFilled = static_cast<std::uint32_t>(n * 4);
@@ -29,7 +28,6 @@ struct FakeProcesses : platform::IProcesses {
         return {id};
     }
     std::vector<FakeProcess> table;
-    std::vector<std::size_t> bufferSizes;
     std::vector<std::int32_t> terminated;
 };
 

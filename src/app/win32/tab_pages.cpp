@@ -32,6 +32,7 @@ TabPages::TabPages(mainwindow::MainWindowModel& model, SharedServices services)
     model.SetTabPage(4, m_startup);
     model.SetTabPage(5, m_connections);
     model.SetTabPage(6, m_neighbourhood);
+    // tmrADDPORT, the NETSTAT tab's timer, counts the applications' ports instead of refreshing its list.
     model.SetTimerHandler(FormTimer::tmrADDPORT, [this] { m_applications.ShowEntryCount(); });
     model.SetMenuHandler(MenuItem::mnuAppEdit, [this] { OpenAppEditor(); });
     model.SetMenuHandler(MenuItem::mnuTouroku, [this, &model] {
