@@ -75,16 +75,11 @@ e2e_begin() {
     (sleep "$E2E_TIMEOUT" && kill -USR1 $$ 2>/dev/null) >/dev/null 2>&1 &
     e2e_watchdog_pid=$!
 
-    [[ -f $E2E_EXE ]] || fail "the program is not built: $E2E_EXE"
     [[ -f $E2E_DRIVER ]] || fail "the driver is not built: $E2E_DRIVER"
     rm -rf "$E2E_WORK"
     mkdir -p "$E2E_PROGRAM_DIR"
-    local icon
-    for icon in veskarneton.ico veskarnetoff.ico; do
-        [[ -f $(dirname "$E2E_EXE")/$icon ]] || fail "$icon is missing beside $E2E_EXE"
-        cp "$(dirname "$E2E_EXE")/$icon" "$E2E_PROGRAM_DIR/"
-    done
-    cp "$E2E_EXE" "$E2E_PROGRAM_DIR/"
+    cp "$E2E_EXE" "$(dirname "$E2E_EXE")"/veskarnet{on,off}.ico "$E2E_PROGRAM_DIR/" ||
+        fail "the program or its two icons are not built beside $E2E_EXE"
 
     lookout_wine_environment
     export WINEPREFIX=$E2E_WORK/prefix
@@ -102,84 +97,46 @@ e2e_start() {
 }
 
 # Waits up to SECONDS for the process started by the last e2e_start to end; fails if it does not.
-# Its exit status is left in e2e_program_status.
 e2e_wait_program_end() {
     local seconds=$1 what=${2:-"the program"} waited=0
     while kill -0 "$e2e_program_job" 2>/dev/null; do
         ((waited++ < seconds * 20)) || fail "$what did not end within $seconds s"
         sleep 0.05
     done
-    e2e_program_status=0
-    wait "$e2e_program_job" || e2e_program_status=$?
 }
 
 # True while the process started by the last e2e_start runs.
 e2e_program_running() { kill -0 "$e2e_program_job" 2>/dev/null; }
 
-# Starts the program past its first-start restart (the manifest is written first) and waits until
+# Starts the program past its first-start restart (the manifest is there first) and waits until
 # its main window is shown; the settings must say open=1.
 e2e_start_shown() {
-    e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
+    e2e_copy_manifest
     e2e_start
     drive wait --title "$E2E_BANNER" --visible --timeout 20000 >/dev/null
 }
 
-# Writes setting.ini as the program writes it (section main, the twelve keys in their order, CR LF),
-# with the values a missing file gets except where a KEY=VALUE argument says otherwise, e.g.
-# e2e_write_settings open=1 start=0.
+# A start without the first-start restart needs the manifest beside the program: this copies the one
+# the program wrote in the first-start scenario, which checks its text and which CTest runs first.
+e2e_copy_manifest() {
+    cp "${E2E_WORK%/*}/first_start/program/$E2E_MANIFEST" "$E2E_PROGRAM_DIR/" ||
+        fail "no manifest from the first-start scenario; run e2e.first_start first"
+}
+
+# Writes setting.ini (section main, CR LF) with the values a missing file gets except where a
+# KEY=VALUE argument says otherwise, e.g. e2e_write_settings open=1 start=0.
 e2e_write_settings() {
     local -A value=([time]=10 [open]=0 [start]=1 [packet]=1 [beep]=0 [logflag]=1 [backcolor]=16777215
         [fontcolor]=0 [window]=1 [nc]= [front]=0 [app]=0)
-    local pair key text=$'[main]\r\n'
+    local pair
     for pair in "$@"; do
         [[ -v value[${pair%%=*}] ]] || fail "e2e_write_settings: unknown key in $pair"
         value[${pair%%=*}]=${pair#*=}
     done
-    for key in time open start packet beep logflag backcolor fontcolor window nc front app; do
-        text+="$key=${value[$key]}"$'\r\n'
-    done
-    printf '%s' "$text" >"$E2E_PROGRAM_DIR/setting.ini"
-}
-
-# The visual-styles manifest the program writes beside itself on its first start: its lines joined
-# by CR LF, none after the last; the processor architecture is the one of the executable, the
-# description its version information's Comments entry (empty without one).
-e2e_manifest_text() { # [DESCRIPTION]
-    local header machine architecture
-    header=$(od -An -tu4 -j60 -N4 "$E2E_EXE" | tr -d ' ')
-    machine=$(od -An -tx2 -j$((header + 4)) -N2 "$E2E_EXE" | tr -d ' ')
-    case $machine in
-        8664) architecture=amd64 ;;
-        014c) architecture=x86 ;;
-        *) fail "unexpected machine type $machine in $E2E_EXE" ;;
-    esac
-    local description=${1-$(sed -n 's/.*VALUE "Comments", "\(.*\)".*/\1/p' "$E2E_SOURCE/resources/veskar_lookout.rc")}
-    local lines=(
-        '<?xml version="1.0" encoding="UTF-8" standalone="yes"?>'
-        '<assembly xmlns="urn:schemas-microsoft-com:asm.v1" manifestVersion="1.0">'
-        '<assemblyIdentity'
-        "  name=\"$E2E_PROCESS\""
-        "  processorArchitecture=\"$architecture\""
-        '  version="1.0.0.0"'
-        '  type="win32"/>'
-        "<description>$description</description>"
-        '<dependency>'
-        '  <dependentAssembly>'
-        '    <assemblyIdentity'
-        '      type="win32"'
-        '      name="Microsoft.Windows.Common-Controls"'
-        '      version="6.0.0.0"'
-        "      processorArchitecture=\"$architecture\""
-        '      publicKeyToken="6595b64144ccf1df"'
-        '      language="*"'
-        '    />'
-        '  </dependentAssembly>'
-        '</dependency>'
-        '</assembly>'
-    )
-    local text=${lines[0]} line
-    for line in "${lines[@]:1}"; do text+=$'\r\n'$line; done
-    printf '%s' "$text"
+    {
+        printf '[main]\r\n'
+        for pair in "${!value[@]}"; do printf '%s=%s\r\n' "$pair" "${value[$pair]}"; done
+    } >"$E2E_PROGRAM_DIR/setting.ini"
 }
 
 # The manifest's file name: the executable's name without extension, then ".exe.MANIFEST".
@@ -229,26 +186,17 @@ assert_eq() { # EXPECTED ACTUAL WHAT
     [[ $1 == "$2" ]] || fail "$3: expected [$1], got [$2]"
 }
 
-assert_contains() { # TEXT EXPECTED_PART WHAT
-    [[ $1 == *"$2"* ]] || fail "$3: [$2] not found in:
-$1"
-}
-
 assert_line() { # TEXT EXPECTED_LINE WHAT: one whole line of TEXT equals EXPECTED_LINE
     grep -qxF -- "$2" <<<"$1" || fail "$3: no line [$2] in:
 $1"
 }
 
 # The file in the program folder holds exactly these bytes (pass them as $'...' with \r\n).
-# On a difference it shows both as a hex dump.
+# On a difference it shows both as a dump of characters.
 assert_file_bytes() { # NAME EXPECTED
-    local file=$E2E_PROGRAM_DIR/$1
-    [[ -f $file ]] || fail "$1 does not exist in the program folder"
-    if ! cmp -s "$file" <(printf '%s' "$2"); then
-        fail "$1 does not hold the expected bytes.
+    cmp -s "$E2E_PROGRAM_DIR/$1" <(printf '%s' "$2") || fail "$1 does not hold the expected bytes.
 --- expected ---
 $(printf '%s' "$2" | od -An -c | head -n 40)
 --- actual ---
-$(od -An -c "$file" | head -n 40)"
-    fi
+$(od -An -c "$E2E_PROGRAM_DIR/$1" | head -n 40)"
 }

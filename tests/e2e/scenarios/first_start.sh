@@ -13,28 +13,46 @@ processes=$(drive processes --process "$E2E_PROCESS")
 [[ $(wc -l <<<"$processes") -eq 1 ]] || fail "exactly one running copy expected after the restart, found:
 $processes"
 
-assert_file_bytes "$E2E_MANIFEST" "$(e2e_manifest_text)"
+# The visual-styles manifest of this x64 build: its lines joined by CR LF, none after the last; the
+# description is the Comments entry of the version information, which the program does not have.
+# The other scenarios start with a copy of this file.
+manifest=$(cat <<XML
+<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
+<assembly xmlns="urn:schemas-microsoft-com:asm.v1" manifestVersion="1.0">
+<assemblyIdentity
+  name="$E2E_PROCESS"
+  processorArchitecture="amd64"
+  version="1.0.0.0"
+  type="win32"/>
+<description></description>
+<dependency>
+  <dependentAssembly>
+    <assemblyIdentity
+      type="win32"
+      name="Microsoft.Windows.Common-Controls"
+      version="6.0.0.0"
+      processorArchitecture="amd64"
+      publicKeyToken="6595b64144ccf1df"
+      language="*"
+    />
+  </dependentAssembly>
+</dependency>
+</assembly>
+XML
+)
+assert_file_bytes "$E2E_MANIFEST" "${manifest//$'\n'/$'\r\n'}"
 e2e_wait_file setting.ini 10
 assert_file_bytes setting.ini $'[main]\r\ntime=10\r\nopen=0\r\nstart=1\r\npacket=1\r\nbeep=0\r\nlogflag=1\r\nbackcolor=16777215\r\nfontcolor=0\r\nwindow=1\r\nnc=\r\nfront=0\r\napp=0\r\n'
+# Both PC lists are created (their bytes are the start-up unit tests'), and nothing else.
 e2e_wait_file pcset.ini 10
 e2e_wait_file pcset2.ini 10
-assert_file_bytes pcset.ini $'"NG"\r\n'
-assert_file_bytes pcset2.ini $'"NG"\r\n'
 files=("$E2E_PROCESS" veskarneton.ico veskarnetoff.ico "$E2E_MANIFEST" setting.ini pcset.ini pcset2.ini)
-if [[ -e $E2E_PROGRAM_DIR/app.ini ]]; then
-    # The allowed-applications list may load itself at start; it creates its file empty.
-    assert_file_bytes app.ini ""
-    files+=(app.ini)
-fi
 assert_eq "$(printf '%s\n' "${files[@]}" | sort)" "$(cd "$E2E_PROGRAM_DIR" && find . -maxdepth 1 -type f -printf '%f\n' | sort)" \
     "the files of the program folder"
 
-window=$(drive window --title "$E2E_BANNER")
-assert_line "$window" $'visible\t0' "the main window starts hidden when open=0"
+assert_line "$(drive window --title "$E2E_BANNER")" $'visible\t0' "the main window starts hidden when open=0"
 
-# The banner is also the first row of the main monitor, and the status bar names the user.
-rows=$(drive listview-rows --title "$E2E_BANNER" --id 101)
-assert_eq "$E2E_BANNER" "$(head -n 1 <<<"$rows")" "first row of the main monitor list"
+# The status bar names the user.
 status=$(drive status --title "$E2E_BANNER")
 grep -q $'^2\tユーザ : .' <<<"$status" || fail "panel 3 of the status bar should name the user, panels are:
 $status"

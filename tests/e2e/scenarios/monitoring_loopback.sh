@@ -34,16 +34,16 @@ grep -q $'^1\tサーバ : ' <<<"$status" || fail "the guard names the server on 
 $status"
 e2e_screenshot monitoring
 
-# The toolbar: while monitoring, start is off and stop on; stop writes its row and switches back.
+# The toolbar: while monitoring, start is off (the switching is the commands unit test's); stop
+# writes its row, and start its own.
 button_id() { drive toolbar --title "$E2E_BANNER" | awk -F'\t' -v tip="$1" '$5 == tip { print $2 }'; }
 button_state() { drive toolbar --title "$E2E_BANNER" | awk -F'\t' -v tip="$1" '$5 == tip { print $3 }'; }
-assert_contains "$(button_state 監視を開始)" "disabled" "the start button while monitoring"
+[[ $(button_state 監視を開始) == *disabled* ]] || fail "the start button is not disabled while monitoring"
 drive toolbar-click "$(button_id 監視を停止)" --title "$E2E_BANNER"
 stopped=$(rows)
 grep -Eq "^$stamp 監視を停止しました。$" <<<"$(tail -n 1 <<<"$stopped")" ||
     fail "stop should write its row last, rows are:
 $stopped"
-assert_contains "$(button_state 監視を停止)" "disabled" "the stop button after stopping"
 
 drive toolbar-click "$(button_id 監視を開始)" --title "$E2E_BANNER"
 restarted=$(rows)
