@@ -78,15 +78,11 @@ TEST(AlertModel, EighthAndLaterAlertsShareTheEighthPlace) {
     for (int i = 0; i < 9; ++i) alerts.push_back(std::make_unique<Alert>(board));
     EXPECT_EQ(board.open.size(), 9u);
     for (int i : {7, 8}) {
-        Alert& alert = *alerts[static_cast<std::size_t>(i)];
-        EXPECT_EQ(alert.model.Slot(), 8);
-        alert.model.DisplayMessage("same place", 1, false, true, true, kPink);
-        TicksUntil(alert.model, [&] { return alert.model.Arrived(); });
-        EXPECT_EQ(alert.model.Placement().top, 6910.0f);
-    }
-    for (int i : {7, 8}) {
-        Alert& alert = *alerts[static_cast<std::size_t>(i)];
-        TicksUntil(alert.model, [&] { return !alert.model.Loaded(); });
+        AlertModel& alert = alerts[static_cast<std::size_t>(i)]->model;
+        EXPECT_EQ(alert.Slot(), 8);
+        alert.DisplayMessage("same place", 1, true, true, true, kPink);  // a fade stands at its place at once
+        EXPECT_EQ(alert.Placement().top, 6910.0f);
+        alert.Unload();
     }
     EXPECT_EQ(board.slots.Mask(), 255);  // two releases of slot 8 set its bit again
 }
@@ -97,7 +93,8 @@ TEST(AlertModel, FadeShowsAtOnceFadesInFiftyTicksAndOutFiftyOnePlusOne) {
     alert.model.DisplayMessage("fade", 4, true, true, true, kPink);
     EXPECT_EQ(alert.surface.topmost, std::vector<bool>{true});
     // Loaded under the work area, then put at its place at once, 100 % transparent.
-    EXPECT_EQ(alert.surface.moves, (std::vector<FormPlacement>{{16800, 14910, 2400, 1000}, {16800, 13910, 2400, 1000}}));
+    EXPECT_EQ(alert.surface.moves,
+              (std::vector<FormPlacement>{{16800, 14910, 2400, 1000}, {16800, 13910, 2400, 1000}}));
 
     // 50 ticks in, 400 shown, 51 out to 102 %, and unloaded on the tick after.
     EXPECT_EQ(TicksUntil(alert.model, [&] { return alert.surface.unloads == 1; }), 50 + 400 + 51 + 1);
