@@ -49,7 +49,6 @@ TEST_F(AppListTest, LoadsEachNameOnceExactlyAndSplitsAnUnquotedComma) {
 TEST_F(AppListTest, ThePathComesFromTheUsersSettingsAndOnlyTheDefaultFileIsCreated) {
     settings.values["Veskar_Lookout\\app\\Filename"] = "D:\\lists\\apps.txt";
     EXPECT_EQ(Known({"a.exe"}), 0u);
-    EXPECT_EQ(files.Get(kDefault), "");
     EXPECT_FALSE(files.Has("D:\\lists\\apps.txt"));
     files.Put("D:\\lists\\apps.txt", "a.exe,Ok\r\n");
     EXPECT_TRUE(dictionary.WriteCache2("b.exe"));
@@ -82,9 +81,8 @@ TEST_F(AppListTest, RegistrationSaysWhetherItWorkedWithTheLeadingBlank) {
     RegisterApplication(dictionary, dialogs, "x.exe");
     files.unwritable.insert(kDefault);
     RegisterApplication(dictionary, dialogs, "y.exe");
-    ASSERT_EQ(dialogs.messages.size(), 2u);
-    EXPECT_EQ(dialogs.messages[0].text, " アプリケーション：x.exeの登録に成功しました。");
-    EXPECT_EQ(dialogs.messages[1].text, " アプリケーション：y.exeの登録に失敗しました。");
+    EXPECT_EQ(dialogs.Texts(), (std::vector<std::string>{" アプリケーション：x.exeの登録に成功しました。",
+                                                         " アプリケーション：y.exeの登録に失敗しました。"}));
     EXPECT_EQ(files.Get(kDefault), "x.exe,Ok\r\n");
 }
 
