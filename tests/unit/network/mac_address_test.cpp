@@ -19,8 +19,7 @@ TEST(AddressToMac, TheReturnedLengthCountsAndAFailedLookupIsNamedInTheMacColumn)
     EXPECT_EQ(mac("192.168.1.99"), "(SendARP call failed)");  // no answer
     arp.AddArpReply(fakes::InetAddr("192.168.1.7"), {0, 0, 0, 0, 0x12, 0x34});  // the first four bytes zero
     EXPECT_EQ(mac("192.168.1.7"), "(SendARP call failed)");
-    platform::ArpReply failed{31, {0x00, 0x0A, 0x95, 0x9D, 0x68, 0x16}, 6};  // a non-zero result wins
-    arp.arpReplies[fakes::InetAddr("192.168.1.9")] = failed;
+    arp.arpReplies[fakes::InetAddr("192.168.1.9")] = {31, {0x00, 0x0A, 0x95, 0x9D, 0x68, 0x16}, 6};  // result 31
     EXPECT_EQ(mac("192.168.1.9"), "(SendARP call failed)");
     arp.AddArpReply(0, {0x00, 0x0A, 0x95, 0x9D, 0x68, 0x16});
     EXPECT_EQ(mac("0.0.0.0"), "(SendARP call failed)");  // an address that converts to zero is not asked

@@ -130,19 +130,17 @@ TEST_F(ListNetworkPcsTest, DecliningLeavesTheListUntouchedAndNoNetworkIsErrorNum
                 ElementsAre(kConfirmation, kConfirmation, kConfirmation, "WNetOpenEnum Error No.1"));
 }
 
-TEST_F(ListNetworkPcsTest, ADomainThatCannotBeOpenedIsErrorNumberTwoAndEndsTheRun) {
+TEST_F(ListNetworkPcsTest, ADomainThatCannotBeOpenedOrReadEndsTheRunWithItsError) {
     TwoWorkgroups();
     net.containers[kProvider].batches = {{Domain("WORKGROUP"), Domain("LOCKED"), Domain("OFFICE")}};
     net.containers["LOCKED"].openResult = 5;  // access denied
-    EXPECT_EQ(Run(), 2u);
-    EXPECT_THAT(dialogs.Texts(), ElementsAre(kConfirmation, "WNetOpenEnum Error No.2"));  // OFFICE is not read
-}
-
-TEST_F(ListNetworkPcsTest, AnErrorDuringTheRunIsListPcEnumError) {
-    TwoWorkgroups();
+    EXPECT_EQ(Run(), 2u);                     // OFFICE is not read
+    net.containers["LOCKED"].openResult = 0;
     net.containers["OFFICE"].readThrows = true;
+    dialogs.answers = {msgbox::kYes};
     EXPECT_EQ(Run(), 2u);
-    EXPECT_THAT(dialogs.Texts(), ElementsAre(kConfirmation, "listPcEnum Error"));
+    EXPECT_THAT(dialogs.Texts(),
+                ElementsAre(kConfirmation, "WNetOpenEnum Error No.2", kConfirmation, "listPcEnum Error"));
     EXPECT_EQ(net.openEnumerations, 0);
 }
 

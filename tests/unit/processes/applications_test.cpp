@@ -99,8 +99,7 @@ TEST_F(ApplicationsTest, TheWalkEndsOnWinesZeroCountAndReadsTheThirtyTwoBitLayou
 
 TEST_F(ApplicationsTest, ABlockedNameQueryIsCutOffAndSkippedLater) {
     // Never destroyed: the cut-off worker goes on using it after the test.
-    static auto* const stuckFake = new fakes::FakeNativeHandles;
-    auto& stuck = *stuckFake;
+    static auto& stuck = *new fakes::FakeNativeHandles;
     std::promise<void> never;
     stuck.gate = never.get_future().share();
     stuck.blockingValue = 8;
