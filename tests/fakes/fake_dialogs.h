@@ -30,6 +30,13 @@ public:
     std::optional<base::Colour> ChooseColour() override { return colourAnswer; }
     void SetClipboardText(const std::string& text) override { clipboard = text; }
 
+    // The message boxes' texts, in order.
+    std::vector<std::string> Texts() const {
+        std::vector<std::string> texts;
+        for (const AskedMessage& m : messages) texts.push_back(m.text);
+        return texts;
+    }
+
     std::vector<AskedMessage> messages;
     std::deque<int> answers;  // answers to the next message boxes; OK when empty
     std::vector<platform::SaveFileRequest> saveRequests;

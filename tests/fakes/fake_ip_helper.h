@@ -20,7 +20,6 @@ public:
         return std::nullopt;
     }
     platform::ArpReply SendArp(std::uint32_t destination) override {
-        arpRequests.push_back(destination);
         const auto found = arpReplies.find(destination);
         return found == arpReplies.end() ? unknownReply : found->second;
     }
@@ -40,7 +39,6 @@ public:
     std::map<std::uint32_t, platform::InterfaceCounters> counters;  // by index; none reads 0
     std::map<std::uint32_t, platform::ArpReply> arpReplies;
     platform::ArpReply unknownReply{67, {}, 0};  // ERROR_BAD_NET_NAME: nobody answered
-    std::vector<std::uint32_t> arpRequests;
     std::optional<std::vector<platform::TcpTableRow>> tcpRows = std::vector<platform::TcpTableRow>{};  // none: 50
     std::vector<platform::UdpTableRow> udpRows;
 };

@@ -65,11 +65,7 @@ bool FakeProfile::WriteSection(const std::string& file, const std::string& secti
 // Only ever used to fill a new file, so a key is appended, never replaced.
 bool FakeProfile::WriteString(const std::string& file, const std::string& section, const std::string& key,
                               const std::string& value) {
-    if (failWrites) return false;
-    auto sections = Parse(m_files.Get(file));
-    Lines(sections, section).push_back(key + "=" + value);
-    m_files.Put(file, Render(sections));
-    return true;
+    return WriteSection(file, section, ReadSection(file, section) + key + "=" + value + '\0');
 }
 
 }  // namespace fakes

@@ -31,7 +31,6 @@ private:
 
 platform::OpenedEnumeration FakeWNet::OpenEnum(std::uint32_t, std::uint32_t, std::uint32_t,
                                                const platform::NetResource& container) {
-    ++opens;
     const std::string& key = container.remoteName.empty() ? container.provider : container.remoteName;
     const auto found = containers.find(key);
     if (found == containers.end()) return {1222, nullptr};

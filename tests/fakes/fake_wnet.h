@@ -23,7 +23,6 @@ public:
     // Keyed by the container's remote name; the network itself (no remote name) by its provider.
     // Opening a container that is not here fails with 1222, no network.
     std::map<std::string, FakeContainer> containers;
-    int opens = 0;             // containers asked for
     int openEnumerations = 0;  // opened and not yet closed
 };
 

@@ -18,7 +18,10 @@
 
 namespace fakes {
 
-class FakeMainMonitor : public app::IMainMonitor {
+// The main window as the monitoring sees it: the main monitor, the hidden session tables, the
+// traffic display, the timers and buttons, and the alerts it raises.
+class FakeMainWindow : public app::IMainMonitor, public app::ISessionWindow, public app::ITrafficDisplay,
+                       public app::IMonitoringSwitches, public app::IAlerts {
 public:
     base::TableModel& Rows() override { return rows; }
     bool Save() override {
@@ -27,57 +30,43 @@ public:
         return saveWrites;
     }
     void SaveBeforeSessionEnd() override { sessionEndSaveRowCounts.push_back(rows.RowCount()); }
-    std::string Row(std::size_t i) const { return rows.Cell(i, 0); }
-    std::string LastRow() const { return Row(rows.RowCount() - 1); }
+    std::vector<std::string> RowTexts() const {
+        std::vector<std::string> texts;
+        for (std::size_t i = 0; i < rows.RowCount(); ++i) texts.push_back(rows.Cell(i, 0));
+        return texts;
+    }
+    std::string LastRow() const { return rows.Cell(rows.RowCount() - 1, 0); }
 
-    base::TableModel rows;
-    std::vector<std::size_t> savedRowCounts, sessionEndSaveRowCounts;
-    bool saveWrites = true;  // false: another save is under way
-    std::function<void()> duringSave;
-};
-
-class FakeSessionWindow : public app::ISessionWindow {
-public:
     base::TableModel& SessionList() override { return sessionList; }
     base::TableModel& DisconnectList() override { return disconnectList; }
     const std::string& ComputerNameText() override { return computerName; }
     void SetServerPanel(const std::string& text) override { serverPanel = text; }
 
-    base::TableModel sessionList, disconnectList;
-    std::string computerName = "MYPC";
-    std::string serverPanel;
-};
-
-class FakeTrafficDisplay : public app::ITrafficDisplay {
-public:
     const std::string& InterfaceText() override { return interfaceText; }
     void SetInterfaceText(const std::string& text) override { interfaceText = text; }
     const std::string& Label(int index) override { return labels[index]; }
     void SetLabel(int index, const std::string& text) override { labels[index] = text; }
     void FeedGraph(int index, float value) override { graphs[index].push_back(value); }
 
-    std::string interfaceText;
-    std::string labels[2];
-    std::vector<float> graphs[2];
-};
-
-class FakeSwitches : public app::IMonitoringSwitches {
-public:
     void SetMonitoringTimers(bool enabled, unsigned interval) override {
         timersOn = enabled;
         timer1Interval = interval;
     }
     void SetDisconnectTimer(bool enabled) override { disconnectTimerOn = enabled; }
-    void SetRunButtons(bool isRunning) override { running = isRunning; }
+    void SetRunButtons(bool) override {}
 
-    bool timersOn = false, disconnectTimerOn = false, running = false;
+    void Raise(const std::string& text) override { alerts.push_back(text); }
+
+    base::TableModel rows, sessionList, disconnectList;
+    std::vector<std::size_t> savedRowCounts, sessionEndSaveRowCounts;
+    bool saveWrites = true;  // false: another save is under way
+    std::function<void()> duringSave;
+    std::string computerName = "MYPC", serverPanel;
+    std::string interfaceText, labels[2];
+    std::vector<float> graphs[2];
+    bool timersOn = false, disconnectTimerOn = false;
     unsigned timer1Interval = 0;
-};
-
-class FakeAlerts : public app::IAlerts {
-public:
-    void Raise(const std::string& text) override { raised.push_back(text); }
-    std::vector<std::string> raised;
+    std::vector<std::string> alerts;
 };
 
 class FakeNetApi : public platform::INetApi {
@@ -92,8 +81,7 @@ public:
         deleted.push_back(client + "/" + user);
         return 0;
     }
-    platform::FileBatch EnumOpenFiles(std::uintptr_t& resume) override {
-        ++resume;
+    platform::FileBatch EnumOpenFiles(std::uintptr_t&) override {
         if (fileAnswers.empty()) return platform::FileBatch{};
         auto answer = fileAnswers.front();
         fileAnswers.pop_front();
@@ -138,11 +126,7 @@ public:
 // The monitoring cycle and its session guard over fakes of everything they use.
 struct MonitoringRig {
     app::Program program;
-    FakeMainMonitor monitor;
-    FakeSessionWindow sessions;
-    FakeTrafficDisplay traffic;
-    FakeSwitches switches;
-    FakeAlerts alerts;
+    FakeMainWindow window;
     FakeNetApi net;
     FakeLookup lookup;
     FakeBeeper beeper;
@@ -150,8 +134,8 @@ struct MonitoringRig {
     FakeIpHelper ipHelper;
     FakeTrayIcon tray;
     FakeClock clock;
-    app::SessionGuard guard{program, {monitor, sessions, traffic}, {net, lookup, beeper, pump, clock}};
-    app::MonitoringCycle cycle{program, {monitor, sessions, traffic, switches, alerts}, clock, ipHelper, tray, guard};
+    app::SessionGuard guard{program, {window, window, window}, {net, lookup, beeper, pump, clock}};
+    app::MonitoringCycle cycle{program, {window, window, window, window, window}, clock, ipHelper, tray, guard};
 };
 
 }  // namespace fakes

@@ -22,24 +22,20 @@ protected:
 TEST_F(SettingsFileTest, MissingFileIsCreatedWithTheDefaults) {
     file.Read(settings);
     EXPECT_EQ(file.Path(), "C:\\Lookout\\\\setting.ini");
-    EXPECT_TRUE(files.Has("C:\\Lookout\\setting.ini"));  // its bytes: the first-start scenario
+    EXPECT_EQ(files.Get("C:\\Lookout\\setting.ini"),
+              "[main]\r\ntime=10\r\nopen=0\r\nstart=1\r\npacket=1\r\nbeep=0\r\nlogflag=1\r\n"
+              "backcolor=16777215\r\nfontcolor=0\r\nwindow=1\r\nnc=\r\nfront=0\r\napp=0\r\n");
     EXPECT_EQ(settings.time, "10");
 }
 
-TEST_F(SettingsFileTest, OnlyExactKeysWithOneEqualsSignAreTaken) {
-    files.Put("C:\\Lookout\\setting.ini",
-              "[main]\r\nTime=99\r\nnc=a=b\r\nbeep=1\r\nstray\r\nunknown=5\r\n[other]\r\ntime=77\r\n");
+TEST_F(SettingsFileTest, OnlyExactKeysWithOneEqualsSignAreTakenAndConvertedByTheRuntimeRules) {
+    files.Put("C:\\Lookout\\setting.ini", "[main]\r\nTime=99\r\nnc=a=b\r\nbackcolor=-2147483648\r\nfront=  1 \r\n"
+                                          "stray\r\nunknown=5\r\n[other]\r\ntime=77\r\n");
     settings.time = "3";
     settings.nc = "0: eth0";
     file.Read(settings);
     EXPECT_EQ(settings.time, "3");       // "Time" is another key
     EXPECT_EQ(settings.nc, "0: eth0");   // two "=" make the entry unusable
-    EXPECT_EQ(settings.beep, 1);
-}
-
-TEST_F(SettingsFileTest, ValuesAreConvertedByTheRuntimeRules) {
-    files.Put("C:\\Lookout\\setting.ini", "[main]\r\nbackcolor=-2147483648\r\nfront=  1 \r\n");
-    file.Read(settings);
     EXPECT_EQ(settings.Backcolor(), INT32_MIN);
     EXPECT_EQ(settings.front, 1);
 

@@ -18,25 +18,21 @@ protected:
     TrayMenu tray{model, recent};
 };
 
-TEST_F(TrayMenuTest, MouseOnTheTrayIcon) {
+// While the exit saves and pumps messages, neither the tray nor a tab timer may run anything.
+TEST_F(TrayMenuTest, MouseOnTheTrayIconUntilTheMainWindowIsUnloaded) {
     EXPECT_TRUE(tray.Mouse(517, false));   // right button up, window hidden: the menu
     EXPECT_FALSE(tray.Mouse(517, true));   // window shown: nothing
     EXPECT_FALSE(tray.Mouse(512, false));  // a move
-    EXPECT_FALSE(model.Visible());
     EXPECT_FALSE(tray.Mouse(515, false));  // double-click: the window at its standard size
-    EXPECT_TRUE(model.Visible());
     EXPECT_EQ(view.Count(mainwindow::Change::ShowNormal), 1);
-}
 
-// While the exit saves and pumps messages, neither the tray nor a tab timer may run anything.
-TEST_F(TrayMenuTest, AnUnloadedMainWindowIgnoresTheTrayAndItsTabTimers) {
     model.ClickTab(2);
     ASSERT_TRUE(model.TimerRunning(mainwindow::FormTimer::tmrTASK));
     model.Unload();
     EXPECT_FALSE(model.TimerRunning(mainwindow::FormTimer::tmrTASK));
     EXPECT_FALSE(tray.Mouse(517, false));
     EXPECT_FALSE(tray.Mouse(515, false));
-    EXPECT_FALSE(model.Visible());
+    EXPECT_EQ(view.Count(mainwindow::Change::ShowNormal), 1);
 }
 
 TEST_F(TrayMenuTest, ItemsRunTheMainWindowsItemsOfTheSameName) {

@@ -5,7 +5,6 @@
 #include <cmath>
 
 #include "base/format.h"
-#include "base/text_encoding.h"
 #include "unit/expect_runtime_error.h"
 
 namespace base {
@@ -47,13 +46,6 @@ TEST(Conversions, NumberTextLikeTheRuntime) {
     EXPECT_EQ(NumberText(250000), "250000");
     EXPECT_EQ(NumberText(0.5), "0.5");
     EXPECT_EQ(NumberText(-0.0), "0");
-}
-
-TEST(TextEncoding, JapaneseRoundTripsThroughCodePage932) {
-    const std::string ansi = Utf8ToAnsi("ユーザ : 太郎");
-    EXPECT_EQ(ansi, "\x83\x86\x81\x5B\x83\x55 : \x91\xBE\x98\x59");
-    EXPECT_EQ(AnsiToUtf8(ansi), "ユーザ : 太郎");
-    EXPECT_EQ(Utf8ToAnsi("a😀b"), "a?b");  // not in the code page
 }
 
 TEST(Format, ThousandsRoundsAndGroups) {

@@ -13,11 +13,12 @@ using fakes::DisplayedMessage;
 const std::string kSession = "[マシン名]\r\nPC01\r\n[ユーザ名]\r\nguest";
 const std::string kCodeOnlyPrefix = "Close By Code Only\r\nメッセージを受信しました。\r\n";
 
-TEST(DemoForm, Command1IsAFourSecondSquareAlertAndCommand2WaitsForAClick) {
+TEST(DemoForm, Command1AndAppviewShowFourSecondsAndCommand2WaitsForAClick) {
     fakes::FakeAlertFactory alerts;
     DemoForm form(alerts);
     form.SetText1(kSession);
     form.Command1Click();
+    form.Appview();  // always a fading teal square, whatever the options say
     form.SetFade(true);
     form.SetSquare(false);
     form.OptColorClick(2);
@@ -25,21 +26,13 @@ TEST(DemoForm, Command1IsAFourSecondSquareAlertAndCommand2WaitsForAClick) {
     form.Command2Click();  // waits for a click; the frame follows chkSquare
     EXPECT_EQ(alerts.displayed, (std::vector<DisplayedMessage>{
                                     {kSession, 4, false, true, true, 0},  // no colour chosen yet
+                                    {kSession, 4, true, true, true, base::Rgb(100, 200, 200)},
                                     {kSession, 4, true, true, true, base::Rgb(255, 200, 200)},
                                     {kSession, 0, true, true, false, base::Rgb(255, 200, 200)},
                                 }));
-    EXPECT_EQ(alerts.alerts.size(), 3u);  // a new alert each time
+    EXPECT_EQ(alerts.alerts.size(), 4u);  // a new alert each time
     // Four colours, 0 to 3.
     ExpectRuntimeError(base::RuntimeErrorNumber::SubscriptOutOfRange, [&] { form.OptColorClick(4); });
-}
-
-TEST(DemoForm, AppviewIsAFadingTealAlert) {
-    fakes::FakeAlertFactory alerts;
-    DemoForm form(alerts);
-    form.SetText1("[アプリケーション]\r\nfoo.exe\r\n");
-    form.Appview();
-    EXPECT_EQ(alerts.displayed, (std::vector<DisplayedMessage>{
-                                    {"[アプリケーション]\r\nfoo.exe\r\n", 4, true, true, true, base::Rgb(100, 200, 200)}}));
 }
 
 TEST(DemoForm, Command3OpensTheCodeClosedAlertThenClosesEveryOpenAlert) {

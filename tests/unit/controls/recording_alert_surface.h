@@ -22,7 +22,7 @@ public:
     void SetRegion(const RoundRegion& clip) override { region = clip; }
     void SetAlpha(std::uint8_t alpha) override { alphas.push_back(alpha); }
     void SetTopmost(bool on) override { topmost.push_back(on); }
-    void StartTimer() override { ++timerStarts; }
+    void StartTimer() override {}
     void Unload() override { ++unloads; }
 
     AlertScreen screen;
@@ -32,7 +32,6 @@ public:
     std::optional<RoundRegion> region;
     std::vector<std::uint8_t> alphas;
     std::vector<bool> topmost;
-    int timerStarts = 0;
     int unloads = 0;
 };
 

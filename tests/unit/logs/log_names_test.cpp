@@ -11,15 +11,10 @@ namespace {
 const base::LocalTime kDay{2005, 6, 22, 23, 59, 58};  // late in the day: the date, not the hour, names files
 const std::string kFolder = "C:\\Lookout\\logs\\";
 
-class Rollover : public ::testing::Test {
-protected:
-    std::string Next() { return RolloverPath(files, kFolder, "process_log_20050622"); }
-    void PutSized(const std::string& name, std::size_t size) { files.Put(kFolder + name, std::string(size, 'x')); }
-
+TEST(Rollover, TheFirstGapOrSmallFileOfTheSeriesWins) {
     fakes::FakeFileSystem files;
-};
-
-TEST_F(Rollover, TheFirstGapOrSmallFileOfTheSeriesWins) {
+    const auto PutSized = [&](const std::string& name, std::size_t n) { files.Put(kFolder + name, std::string(n, 'x')); };
+    const auto Next = [&] { return RolloverPath(files, kFolder, "process_log_20050622"); };
     PutSized("process_log_20050622.txt", 600000);
     PutSized("process_log_20050622_2.txt", 10);
     EXPECT_EQ(Next(), kFolder + "process_log_20050622_1.txt");  // _1 is absent, even though _2 exists

@@ -30,12 +30,6 @@ WindowMetrics Metrics(int twipsPerPixel, int clientHeight) {
     return m;
 }
 
-void ExpectInside(const PixelRect& inner, const PixelRect& outer) {
-    EXPECT_GE(inner.y, outer.y);
-    EXPECT_LE(inner.Bottom(), outer.Bottom());
-    EXPECT_GE(inner.height, 0);
-}
-
 TEST(Place, TheListsSitAt740TwipsAndTheBandBelowThem) {
     ResizeRule rule;  // the load-time size, 12775 x 5100 twips
     // At 96 DPI: a client area of 300 of the form's 340 pixels.
@@ -48,7 +42,9 @@ TEST(Place, TheListsSitAt740TwipsAndTheBandBelowThem) {
     const PixelRect order[] = {b.computerName, b.interfaceLabel, b.receivedCaption, b.receivedLabel,
                                b.receivedGraph, b.sentCaption,   b.sentLabel,       b.sentGraph};
     for (std::size_t i = 0; i < std::size(order); ++i) {
-        ExpectInside(order[i], g.band);
+        EXPECT_GE(order[i].y, g.band.y);  // inside the band
+        EXPECT_LE(order[i].Bottom(), g.band.Bottom());
+        EXPECT_GE(order[i].height, 0);
         EXPECT_GT(order[i].width, 0);
         if (i > 0) {
             EXPECT_GE(order[i].x, order[i - 1].x + order[i - 1].width) << i;  // left to right, apart

@@ -15,8 +15,7 @@ struct FakeProgramSettings : platform::IProgramSettings {
     std::optional<std::string> GetSetting(const std::string& application, const std::string& section,
                                           const std::string& key) override {
         const auto found = values.find(application + "\\" + section + "\\" + key);
-        if (found == values.end()) return std::nullopt;
-        return found->second;
+        return found == values.end() ? std::nullopt : std::optional(found->second);
     }
     std::map<std::string, std::string> values;
 };

@@ -28,11 +28,6 @@ protected:
         for (std::size_t i = 0; i < list.RowCount(); ++i) rows.push_back(list.RowAt(i).cells);
         return rows;
     }
-    std::vector<std::string> Texts() {
-        std::vector<std::string> texts;
-        for (const auto& m : dialogs.messages) texts.push_back(m.text);
-        return texts;
-    }
 
     fakes::FakeNativeHandles native;
     fakes::FakeIconList icons;
@@ -44,7 +39,7 @@ protected:
                         {std::chrono::milliseconds(100), std::chrono::milliseconds(5)}};
 };
 
-TEST_F(ApplicationsTest, RowsFollowPortsWithTcpFirstAndTheLaterOwnerOfACell) {
+TEST_F(ApplicationsTest, RowsFollowPortsWithTcpFirstAndTheLaterOwnerOfACellAndTheCountIsShown) {
     native.handles = {{200, 8, kUdp, 137}, {100, 4, kTcp, 80},   {100, 12, kUdp, 80}, {100, 16, kUdp, 137},
                       {-25536, 4, kTcp, 8080}, {100, 20, u"\\Device\\Xyz", 99}, {100, 24, u"\\Device\\Afd", 0},
                       {0, 28, kTcp, 81}, {100, 32, u"\\Device\\Tcp6", 82}};
@@ -60,6 +55,10 @@ TEST_F(ApplicationsTest, RowsFollowPortsWithTcpFirstAndTheLaterOwnerOfACell) {
     EXPECT_EQ(model.PanelText(5), "プロセス : 5");
     EXPECT_EQ(native.opened.load(), native.closed.load());
     EXPECT_TRUE(dialogs.messages.empty());
+    // tmrADDPORT shows the last refresh's count again.
+    model.SetPanelText(5, "");
+    tab.ShowEntryCount();
+    EXPECT_EQ(model.PanelText(5), "プロセス : 5");
 }
 
 TEST_F(ApplicationsTest, AnUnchangedCountKeepsTheRowsAndTheLogGrowsEveryTime) {
@@ -69,10 +68,7 @@ TEST_F(ApplicationsTest, AnUnchangedCountKeepsTheRowsAndTheLogGrowsEveryTime) {
     native.handles = {{200, 4, kTcp, 81}};
     model.TimerTick(mainwindow::FormTimer::tmrPID);
     EXPECT_EQ(Rows()[0][1], "100");
-    std::string log;
-    for (const auto& [path, bytes] : files.files) {
-        if (path.find("application") != std::string::npos) log += bytes;
-    }
+    const std::string log = files.Get("C:\\Lookout\\logs\\application20050622.txt");
     EXPECT_EQ(std::count(log.begin(), log.end(), '\n'), 2);
     native.handles.push_back({200, 8, kUdp, 81});
     model.RefreshCurrentTab();
@@ -83,7 +79,7 @@ TEST_F(ApplicationsTest, AnUnchangedCountKeepsTheRowsAndTheLogGrowsEveryTime) {
 TEST_F(ApplicationsTest, MoreThanAThousandPairsEndTheRefreshWithM1) {
     for (std::uint16_t port = 1; port <= 1001; ++port) native.handles.push_back({100, port, kTcp, port});
     model.ClickTab(3);
-    EXPECT_EQ(Texts(), std::vector<std::string>{"アプリケーション で Error Level m1 が発生しました。"});
+    EXPECT_EQ(dialogs.Texts(), std::vector<std::string>{"アプリケーション で Error Level m1 が発生しました。"});
     EXPECT_EQ(Rows().size(), 0u);
 }
 
@@ -103,8 +99,7 @@ TEST_F(ApplicationsTest, TheWalkEndsOnWinesZeroCountAndReadsTheThirtyTwoBitLayou
 
 TEST_F(ApplicationsTest, ABlockedNameQueryIsCutOffAndSkippedLater) {
     // Never destroyed: the cut-off worker goes on using it after the test.
-    static auto* const stuckFake = new fakes::FakeNativeHandles;
-    auto& stuck = *stuckFake;
+    static auto& stuck = *new fakes::FakeNativeHandles;
     std::promise<void> never;
     stuck.gate = never.get_future().share();
     stuck.blockingValue = 8;
@@ -135,8 +130,8 @@ TEST_F(ApplicationsTest, ThePrivilegeIsAskedForUntilItOnceSucceeds) {
     model.RefreshCurrentTab();
     native.privilege = {platform::PrivilegeStep::OpenToken, 5};
     model.RefreshCurrentTab();
-    EXPECT_EQ(Texts(), (std::vector<std::string>{"AdjustTokenPrivileges, Error: 1300",
-                                                 "アプリケーション で Error Level m1-1 が発生しました。"}));
+    EXPECT_EQ(dialogs.Texts(), (std::vector<std::string>{"AdjustTokenPrivileges, Error: 1300",
+                                                         "アプリケーション で Error Level m1-1 が発生しました。"}));
     EXPECT_EQ(Rows().size(), 1u);
 }
 
@@ -157,14 +152,6 @@ TEST_F(ApplicationsTest, AtMostEightAlertsARefreshAndTheLookUpIsCaseSensitive) {
     program.settings.app = 0;
     model.TimerTick(mainwindow::FormTimer::tmrPID);
     EXPECT_EQ(alert.texts.size(), 16u);
-}
-
-TEST_F(ApplicationsTest, TheStatusTimerShowsTheLastEntryCount) {
-    native.handles = {{100, 4, kTcp, 80}, {100, 8, kUdp, 80}};
-    model.ClickTab(3);
-    model.ClickTab(1);
-    tab.ShowEntryCount();
-    EXPECT_EQ(model.PanelText(5), "プロセス : 2");
 }
 
 }  // namespace

@@ -59,8 +59,7 @@ TEST_F(ProcessListTest, AnIdAbove32767OrA1001stRowEndsTheRefreshWithTheNewCountK
     EXPECT_TRUE(Rows().empty());
     for (std::uint32_t id = 1; id <= 1001; ++id) processes.table.push_back({id, "C:\\p.exe"});
     page.Refresh();
-    ASSERT_EQ(dialogs.messages.size(), 2u);
-    for (const auto& m : dialogs.messages) EXPECT_EQ(m.text, "プロセス タブで Error Level t1 が発生しました。");
+    EXPECT_EQ(dialogs.Texts(), Texts(2, "プロセス タブで Error Level t1 が発生しました。"));
 }
 
 }  // namespace

@@ -3,9 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "base/runtime_error.h"
 #include "fakes/fake_icon_list.h"
 #include "fakes/fake_registry.h"
+#include "unit/expect_runtime_error.h"
 
 namespace system_items {
 namespace {
@@ -15,15 +15,12 @@ using platform::RegistryHive;
 
 const std::string kRun = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 
-struct StartupItemsTest : ::testing::Test {
+TEST(StartupItems, ListsTheFourLocationsInOrderWithTheirIconsUpToFiftyOneNamesAndNoExpandableString) {
     fakes::FakeRegistry registry;
     fakes::FakeIconList icons;
     base::TableModel list;
     int logs = 0;
-    StartupItemsPage page{registry, icons, list, [this] { ++logs; }};
-};
-
-TEST_F(StartupItemsTest, ListsTheFourLocationsInOrderWithTheirIcons) {
+    StartupItemsPage page{registry, icons, list, [&] { ++logs; }};
     registry.keys[{RegistryHive::LocalMachine, kRun + "Services"}] = {{"svc", 1, "SYSTEM"}};
     registry.keys[{RegistryHive::CurrentUser, kRun}] = {{"tool", 1, "\"C:\\P F\\t.EXE\" /m"}, {"", 1, "rundll32 a,b"}};
     registry.keys[{RegistryHive::LocalMachine, kRun}] = {{"broken", 1, "x", true}};
@@ -36,25 +33,17 @@ TEST_F(StartupItemsTest, ListsTheFourLocationsInOrderWithTheirIcons) {
     EXPECT_THAT(list.RowAt(3).cells, ElementsAre("svc", "SYSTEM", "Machine_RunServices"));
     EXPECT_THAT(icons.images, ElementsAre("C:\\P F\\t.EXE", "?", "Error", "?"));
     EXPECT_EQ(logs, 1);
-}
 
-TEST_F(StartupItemsTest, FiftyOneNamesFitAFiftySecondAndAnExpandableStringRaiseErrors) {
+    // Fifty-one names fit a key, a fifty-second and an expandable string raise errors.
+    registry.keys.clear();
     auto& values = registry.keys[{RegistryHive::CurrentUser, kRun}];
     for (int i = 0; i < 51; ++i) values.push_back({"v" + std::to_string(i), 1, "a.exe"});
     page.Refresh();
     EXPECT_EQ(list.RowCount(), 51u);
-    const auto error = [&] {
-        try {
-            page.Refresh();
-        } catch (const base::RuntimeError& raised) {
-            return raised.Number();
-        }
-        return base::RuntimeErrorNumber{};
-    };
     values.push_back({"v51", 1, "a.exe"});
-    EXPECT_EQ(error(), base::RuntimeErrorNumber::SubscriptOutOfRange);
+    ExpectRuntimeError(base::RuntimeErrorNumber::SubscriptOutOfRange, [&] { page.Refresh(); });
     values = {{"env", platform::regtype::kExpandString, "%windir%\\a.exe"}};
-    EXPECT_EQ(error(), base::RuntimeErrorNumber::TypeMismatch);
+    ExpectRuntimeError(base::RuntimeErrorNumber::TypeMismatch, [&] { page.Refresh(); });
 }
 
 }  // namespace
