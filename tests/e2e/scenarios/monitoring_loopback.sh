@@ -34,7 +34,8 @@ grep -q $'^1\tサーバ : ' <<<"$status" || fail "the guard names the server on 
 $status"
 e2e_screenshot monitoring
 
-# The toolbar: while monitoring, start is off (the switching is the commands unit test's); stop
+# The toolbar switches its buttons with monitoring: start is off while monitoring, stop is off once
+# stopped (the driver refuses a disabled button, so each click also proves its button was on); stop
 # writes its row, and start its own.
 button_id() { drive toolbar --title "$E2E_BANNER" | awk -F'\t' -v tip="$1" '$5 == tip { print $2 }'; }
 button_state() { drive toolbar --title "$E2E_BANNER" | awk -F'\t' -v tip="$1" '$5 == tip { print $3 }'; }
@@ -44,6 +45,7 @@ stopped=$(rows)
 grep -Eq "^$stamp 監視を停止しました。$" <<<"$(tail -n 1 <<<"$stopped")" ||
     fail "stop should write its row last, rows are:
 $stopped"
+[[ $(button_state 監視を停止) == *disabled* ]] || fail "the stop button is not disabled once stopped"
 
 drive toolbar-click "$(button_id 監視を開始)" --title "$E2E_BANNER"
 restarted=$(rows)

@@ -44,7 +44,9 @@ TEST(GraphMove, DefaultWidthHolds1359ValuesThenRolls) {
         ASSERT_TRUE(graph.setValue(static_cast<float>(i % 100)));
         // Once full, the oldest value kept is the right one at every step, through several
         // compactions of the store; at 1359 values the creation zero falls off.
-        if (i >= 1358) ASSERT_EQ(graph.Values().front(), static_cast<float>((i - 1358) % 100)) << i;
+        if (i >= 1358) {
+            ASSERT_EQ(graph.Values().front(), static_cast<float>((i - 1358) % 100)) << i;
+        }
     }
     ASSERT_EQ(graph.Values().size(), 1359u);  // capacity 2715 / 2 = 1357.5 < upper bound 1358
     EXPECT_EQ(graph.Values().back(), 99.0f);
