@@ -66,8 +66,10 @@ TEST_F(ApplicationsTest, AnUnchangedCountKeepsTheRowsAndTheLogGrowsEveryTime) {
     native.handles = {{100, 4, kTcp, 80}};
     model.ClickTab(3);
     native.handles = {{200, 4, kTcp, 81}};
-    model.TimerTick(mainwindow::FormTimer::tmrPID);
+    model.SetPanelText(5, "");
+    model.TimerTick(mainwindow::FormTimer::tmrPID);  // the tab's own timer shows the count too
     EXPECT_EQ(Rows()[0][1], "100");
+    EXPECT_EQ(model.PanelText(5), "プロセス : 1");
     const std::string log = files.Get("C:\\Lookout\\logs\\application20050622.txt");
     EXPECT_EQ(std::count(log.begin(), log.end(), '\n'), 2);
     native.handles.push_back({200, 8, kUdp, 81});
