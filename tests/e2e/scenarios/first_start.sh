@@ -13,34 +13,7 @@ processes=$(drive processes --process "$E2E_PROCESS")
 [[ $(wc -l <<<"$processes") -eq 1 ]] || fail "exactly one running copy expected after the restart, found:
 $processes"
 
-# The visual-styles manifest of this x64 build: its lines joined by CR LF, none after the last; the
-# description is the Comments entry of the version information, which the program does not have.
-# The other scenarios start with a copy of this file.
-manifest=$(cat <<XML
-<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
-<assembly xmlns="urn:schemas-microsoft-com:asm.v1" manifestVersion="1.0">
-<assemblyIdentity
-  name="$E2E_PROCESS"
-  processorArchitecture="amd64"
-  version="1.0.0.0"
-  type="win32"/>
-<description></description>
-<dependency>
-  <dependentAssembly>
-    <assemblyIdentity
-      type="win32"
-      name="Microsoft.Windows.Common-Controls"
-      version="6.0.0.0"
-      processorArchitecture="amd64"
-      publicKeyToken="6595b64144ccf1df"
-      language="*"
-    />
-  </dependentAssembly>
-</dependency>
-</assembly>
-XML
-)
-assert_file_bytes "$E2E_MANIFEST" "${manifest//$'\n'/$'\r\n'}"
+assert_file_bytes "$E2E_MANIFEST" "$(e2e_manifest_text)"
 e2e_wait_file setting.ini 10
 assert_file_bytes setting.ini $'[main]\r\ntime=10\r\nopen=0\r\nstart=1\r\npacket=1\r\nbeep=0\r\nlogflag=1\r\nbackcolor=16777215\r\nfontcolor=0\r\nwindow=1\r\nnc=\r\nfront=0\r\napp=0\r\n'
 # Both PC lists are created (their bytes are the start-up unit tests'), and nothing else.

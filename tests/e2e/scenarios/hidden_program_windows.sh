@@ -8,7 +8,7 @@
 source "$(dirname "$0")/../lib.sh"
 e2e_begin
 e2e_write_settings open=0 start=1 logflag=1
-e2e_copy_manifest
+e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
 e2e_start
 
 drive wait --class frmDemo --timeout 20000 >/dev/null

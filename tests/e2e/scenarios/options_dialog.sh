@@ -11,7 +11,7 @@ records=$'"OK"\r\n'
 for i in $(seq 2 22); do records+="\"PC$i\""$'\r\n'; done
 printf '%s' "$records" >"$E2E_PROGRAM_DIR/pcset.ini"
 
-e2e_copy_manifest
+e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
 e2e_start
 box=$(drive messagebox --process "$E2E_PROCESS" --timeout 20000)
 assert_line "$box" "title"$'\t'"$E2E_PRODUCT" "title of the error box"

@@ -5,7 +5,7 @@
 # running copy whose main window has another caption is not found: the next start runs beside it.
 source "$(dirname "$0")/../lib.sh"
 e2e_begin
-e2e_copy_manifest
+e2e_manifest_text >"$E2E_PROGRAM_DIR/$E2E_MANIFEST"
 
 jobs=()
 for _ in {1..10}; do

@@ -78,6 +78,7 @@ log=$(ls "$E2E_PROGRAM_DIR/logs" | grep '^application' || true)
 drive menu-invoke "${window[@]}" "ツール(&T)" "アプリケーションの登録(&A)" >/dev/null
 editor=(--title "アプリケーション管理")
 drive wait "${editor[@]}" >/dev/null
+assert_file_bytes app.ini ""  # a missing list is created empty
 for name in notepad.exe calc.exe winmine.exe; do
     drive click "${editor[@]}" --caption "プログラムの追加(&R)" >/dev/null
     drive set-text "$name" --title "アプリケーションの追加" >/dev/null

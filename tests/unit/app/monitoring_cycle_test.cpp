@@ -97,6 +97,8 @@ TEST_F(MonitoringCycleTest, TrafficRowShowsReceivedAfterSendAndSentAfterReceive)
     StartOnEth0();
     const std::size_t rows = window.rows.RowCount();
     cycle.Timer1Tick();
+    EXPECT_EQ(window.labels[1], "0");  // the sent side only takes its sample
+    EXPECT_TRUE(window.graphs[1].empty());
     SetCounters(1000, 5000 + 80000);  // outgoing traffic only
     cycle.Timer1Tick();
     EXPECT_EQ(window.rows.RowCount(), rows);

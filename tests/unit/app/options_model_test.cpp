@@ -23,11 +23,12 @@ protected:
 };
 
 TEST_F(OptionsModelTest, LoadFillsTheControlsFromTheFiles) {
-    files.Put("C:\\L\\setting.ini", "[main]\r\ntime=30\r\nopen=1\r\nfontcolor=65280\r\nnc=1: eth0\r\n");
+    files.Put("C:\\L\\setting.ini", "[main]\r\ntime=30\r\nopen=1\r\nstart=0\r\nfontcolor=65280\r\nnc=1: eth0\r\n");
     files.Put("C:\\L\\pcset2.ini", "\"OK\"\r\n\"first\"\r\n\"second\"\r\n");
     model.Load();
     EXPECT_EQ(model.interfaceText, "1: eth0");
     EXPECT_TRUE(model.open);
+    EXPECT_FALSE(model.start);
     EXPECT_EQ(model.swatches[static_cast<int>(Swatch::Text)], 65280u);
     EXPECT_TRUE(model.deny.enabled);
     EXPECT_EQ(model.deny.entries[1], "second");

@@ -29,7 +29,7 @@ TEST_F(SettingsFileTest, MissingFileIsCreatedWithTheDefaults) {
 }
 
 TEST_F(SettingsFileTest, OnlyExactKeysWithOneEqualsSignAreTakenAndConvertedByTheRuntimeRules) {
-    files.Put("C:\\Lookout\\setting.ini", "[main]\r\nTime=99\r\nnc=a=b\r\nbackcolor=-2147483648\r\nfront=  1 \r\n"
+    files.Put("C:\\Lookout\\setting.ini", "[main]\r\nTime=99\r\nnc=a=b\r\nbeep=1\r\nbackcolor=-2147483648\r\nfront=  1 \r\n"
                                           "stray\r\nunknown=5\r\n[other]\r\ntime=77\r\n");
     settings.time = "3";
     settings.nc = "0: eth0";
@@ -38,6 +38,7 @@ TEST_F(SettingsFileTest, OnlyExactKeysWithOneEqualsSignAreTakenAndConvertedByThe
     EXPECT_EQ(settings.nc, "0: eth0");   // two "=" make the entry unusable
     EXPECT_EQ(settings.Backcolor(), INT32_MIN);
     EXPECT_EQ(settings.front, 1);
+    EXPECT_EQ(settings.beep, 1);
 
     files.Put("C:\\Lookout\\setting.ini", "[main]\r\nstart=256\r\n");
     EXPECT_THROW(file.Read(settings), base::RuntimeError);  // a flag above 255 overflows

@@ -137,6 +137,7 @@ TEST(AlertModel, TimeOutTimesHundredMustFitIn32Bits) {
     Alert tooLong(board);
     ExpectRuntimeError(base::RuntimeErrorNumber::Overflow,
                        [&] { tooLong.model.DisplayMessage("too long", 21474837, false, true, true, kPink); });
+    EXPECT_EQ(tooLong.surface.timerStarts, 0);  // the overflow comes before the timer is started
 }
 
 TEST(AlertPicture, SquareFrameIsEightLinesOverAWhiteToColourGradient) {

@@ -22,7 +22,7 @@ public:
     void SetRegion(const RoundRegion& clip) override { region = clip; }
     void SetAlpha(std::uint8_t alpha) override { alphas.push_back(alpha); }
     void SetTopmost(bool on) override { topmost.push_back(on); }
-    void StartTimer() override {}
+    void StartTimer() override { ++timerStarts; }
     void Unload() override { ++unloads; }
 
     AlertScreen screen;
@@ -33,6 +33,7 @@ public:
     std::vector<std::uint8_t> alphas;
     std::vector<bool> topmost;
     int unloads = 0;
+    int timerStarts = 0;
 };
 
 }  // namespace controls::testing

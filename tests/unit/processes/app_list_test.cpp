@@ -49,6 +49,8 @@ TEST_F(AppListTest, ThePathComesFromTheUsersSettingsAndOnlyTheDefaultFileIsCreat
     settings.values["Veskar_Lookout\\app\\Filename"] = "D:\\lists\\apps.txt";
     EXPECT_EQ(Known({"a.exe"}), 0u);
     EXPECT_FALSE(files.Has("D:\\lists\\apps.txt"));
+    EXPECT_TRUE(files.Has(kDefault));  // the program folder's list is created, empty
+    EXPECT_EQ(files.Get(kDefault), "");
     files.Put("D:\\lists\\apps.txt", "a.exe,Ok\r\n");
     EXPECT_TRUE(dictionary.WriteCache2("b.exe"));
     EXPECT_EQ(files.Get("D:\\lists\\apps.txt"), "a.exe,Ok\r\nb.exe,Ok\r\n");
