@@ -34,11 +34,12 @@ std::string TcpStateText(std::uint32_t state) {
 }
 
 bool ConnectionTablePage::Refresh() {
-    m_list.Clear();
     std::vector<base::TableModel::Row> rows;
+    bool failed = false;
     try {
         const auto tcp = m_ipHelper.TcpTable();
         if (!tcp) {
+            m_list.Clear();
             m_dialogs.ShowMessage(kNotSupported, base::kProductName, platform::msgbox::kOkOnly);
             return true;
         }
@@ -53,12 +54,15 @@ bool ConnectionTablePage::Refresh() {
                              "*", ""}});
         }
     } catch (const std::exception&) {
-        m_list.Replace(std::move(rows));
-        m_dialogs.ShowMessage(kRefreshError, base::kProductName, platform::msgbox::kOkOnly);
-        return true;
+        failed = true;  // the rows read so far are shown
     }
+    // One update of the list per refresh.
     m_list.Replace(std::move(rows));
-    if (m_automaticLog) m_automaticLog();
+    if (failed) {
+        m_dialogs.ShowMessage(kRefreshError, base::kProductName, platform::msgbox::kOkOnly);
+    } else if (m_automaticLog) {
+        m_automaticLog();
+    }
     return true;
 }
 
