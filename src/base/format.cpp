@@ -3,6 +3,8 @@
 #include <cmath>
 #include <cstdio>
 
+#include "base/utf8_text.h"
+
 namespace base {
 
 std::string FormatThousands(double value) {
@@ -20,11 +22,7 @@ std::string FormatThousands(double value) {
 
 std::string FormatAtSigns(std::string_view text) {
     constexpr std::size_t width = 6;
-    // Width counts characters, not bytes: count UTF-8 lead bytes.
-    std::size_t characters = 0;
-    for (unsigned char c : text) {
-        if ((c & 0xC0) != 0x80) ++characters;
-    }
+    const std::size_t characters = CharacterCount(text);  // width counts characters, not bytes
     if (characters >= width) return std::string(text);
     return std::string(width - characters, ' ') + std::string(text);
 }

@@ -8,10 +8,15 @@ void AddFileOrStandByIcon(platform::IIconList& icons, const std::string& path) {
     if (path == "SYSTEM" || !icons.AddFileIcon(path)) icons.AddStandByIcon();
 }
 
+namespace {
+
+// The rule for one file inside the tab's own error trap.
 void AddRowIcon(platform::IIconList& icons, const std::string& path, platform::IDialogs& dialogs,
                 const IconErrorTexts& texts) {
     platform::TrapErrors(dialogs, texts.oneIcon, [&] { AddFileOrStandByIcon(icons, path); });
 }
+
+}  // namespace
 
 void LoadRowIcons(platform::IIconList& icons, const base::TableModel& list, std::size_t pathColumn,
                   platform::IDialogs& dialogs, const IconErrorTexts& texts) {
@@ -22,7 +27,5 @@ void LoadRowIcons(platform::IIconList& icons, const base::TableModel& list, std:
         }
     });
 }
-
-void AssignRowIcons(base::TableModel& list) { list.ShowIconPerRow(); }
 
 }  // namespace mainwindow

@@ -20,15 +20,8 @@ struct IconErrorTexts {
 // files the shell has no icon list for.
 void AddFileOrStandByIcon(platform::IIconList& icons, const std::string& path);
 
-// The same rule inside the tab's own error trap.
-void AddRowIcon(platform::IIconList& icons, const std::string& path, platform::IDialogs& dialogs,
-                const IconErrorTexts& texts);
-
 // Clears the image list and adds one icon per row, from the row's path in pathColumn.
 void LoadRowIcons(platform::IIconList& icons, const base::TableModel& list, std::size_t pathColumn,
                   platform::IDialogs& dialogs, const IconErrorTexts& texts);
-
-// Every row shows the image with its own index.
-void AssignRowIcons(base::TableModel& list);
 
 }  // namespace mainwindow

@@ -136,6 +136,8 @@ public:
     void ClickTab(int tab);
     // "最新の情報に更新(&R)".
     void RefreshCurrentTab();
+    // Panel 5: the tab's count label and its list's row count.
+    void ShowCountOf(int tab);
 
     // --- Timers: an interval of 0 or a disabled timer does not run.
     int TimerInterval(FormTimer timer) const { return m_timers[TimerIndex(timer)].interval; }
@@ -205,7 +207,6 @@ private:
     void Notify(Change what, int index = 0) const;
     // Runs a tab's refresh (or its timer's); on failure shows errorText when there is one.
     void RunRefresh(int tab, const char* errorText, bool fromTimer = false);
-    void ShowCountOf(int tab);
     void ApplyMenuStateOf(int tab);
     void ToggleGridLines();
     void ToggleAlwaysOnTop();

@@ -1,9 +1,11 @@
 #include "network/machine_panel.h"
 
-#include <algorithm>
 #include <string_view>
+#include <vector>
 
 #include "base/product.h"
+#include "base/split.h"
+#include "base/utf8_text.h"
 
 #ifndef LOOKOUT_ECHO_URL
 #error "the build defines LOOKOUT_ECHO_URL"
@@ -14,35 +16,14 @@ namespace {
 
 constexpr std::uint32_t kNameNotFound = 2273;  // NERR_NameNotFound
 
-// The byte offset of the character at this 1-based position of UTF-8 text (its end when the
-// text is shorter), counting characters as the runtime's string functions do.
-std::size_t OffsetOfCharacter(std::string_view text, std::size_t position) {
-    std::size_t offset = 0;
-    for (std::size_t character = 1; character < position && offset < text.size(); ++character) {
-        ++offset;
-        while (offset < text.size() && (static_cast<unsigned char>(text[offset]) & 0xC0) == 0x80) ++offset;
-    }
-    return offset;
-}
-
-std::size_t CharacterCount(std::string_view text) {
-    std::size_t count = 0;
-    for (const char byte : text) count += (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-    return count;
-}
-
 }  // namespace
 
 std::string EchoAddress(platform::IProfile& profile, const std::string& settingsFile) {
     static constexpr std::string_view kKey = "echo_url=";
-    const std::string section = profile.ReadSection(settingsFile, "utility");
-    for (std::size_t start = 0; start < section.size();) {
-        const std::size_t end = std::min(section.find('\0', start), section.size());
-        const std::string_view entry(section.data() + start, end - start);
-        if (entry.substr(0, kKey.size()) == kKey && entry.size() > kKey.size()) {
-            return std::string(entry.substr(kKey.size()));
-        }
-        start = end + 1;
+    std::vector<std::string> entries;
+    base::Split(profile.ReadSection(settingsFile, "utility"), std::string_view("\0", 1), entries);
+    for (const std::string& entry : entries) {
+        if (entry.starts_with(kKey) && entry.size() > kKey.size()) return entry.substr(kKey.size());
     }
     return LOOKOUT_ECHO_URL;
 }
@@ -51,8 +32,8 @@ std::string ParseEchoReply(const std::string& reply) {
     const std::string_view line = std::string_view(reply).substr(0, reply.find("\r\n"));
     // As Mid(line, InStr(line, "REMOTE_ADDR") + 25), InStr giving 0 when the word is missing.
     const std::size_t word = line.find("REMOTE_ADDR");
-    const std::size_t wordPosition = word == std::string_view::npos ? 0 : CharacterCount(line.substr(0, word)) + 1;
-    return std::string(line.substr(OffsetOfCharacter(line, wordPosition + 25)));
+    const std::size_t wordPosition = word == std::string_view::npos ? 0 : base::CharacterCount(line.substr(0, word)) + 1;
+    return std::string(line.substr(base::OffsetOfCharacter(line, wordPosition + 25)));
 }
 
 MachinePanel::MachinePanel(std::string echoAddress, std::string machineName, Services services)

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/product.h"
+#include "base/utf8_text.h"
 #include "network/mac_address.h"
 #include "network/name_resolution.h"
 
@@ -44,14 +45,7 @@ std::optional<std::vector<NetResource>> ReadLevel(platform::IWNet& wnet, const N
 
 // A server's remote name is "\\NAME"; the machine name is what follows the first two characters.
 std::string MachineName(const std::string& remoteName) {
-    std::size_t position = 0;
-    for (int skipped = 0; skipped < 2 && position < remoteName.size(); ++skipped) {
-        ++position;
-        while (position < remoteName.size() && (static_cast<unsigned char>(remoteName[position]) & 0xC0) == 0x80) {
-            ++position;  // continuation bytes of a multi-byte character
-        }
-    }
-    return remoteName.substr(position);
+    return remoteName.substr(base::OffsetOfCharacter(remoteName, 3));
 }
 
 }  // namespace

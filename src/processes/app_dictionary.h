@@ -26,7 +26,6 @@ public:
     // Appends a non-empty name to the file (true when written), then loads the file again.
     bool WriteCache2(const std::string& name);
 
-    std::int16_t AlertCounter() const { return m_alertCounter; }
     void ResetAlertCounter() { m_alertCounter = 0; }
 
 private:

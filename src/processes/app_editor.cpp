@@ -5,7 +5,9 @@
 namespace processes {
 
 AppEditor::AppEditor(AppListFile& file, AppDictionary& allowed, platform::IInputBox& input)
-    : m_file(file), m_allowed(allowed), m_input(input), m_maxSize(file.MaxSize()) {
+    : m_file(file), m_allowed(allowed), m_input(input) {
+    // The form reads MaxSize as it always has; nothing here limits by it.
+    static_cast<void>(m_file.MaxSize());
     m_file.CreateDefaultIfMissing();
     std::vector<base::TableModel::Row> rows;
     for (const auto& record : m_file.ReadRecords()) rows.push_back({{record.first}});
@@ -19,7 +21,7 @@ void AppEditor::Add() {
 
 void AppEditor::Delete() {
     const std::optional<std::size_t> selected = m_rows.SelectedRow();
-    if (!selected || *selected >= m_rows.RowCount()) return;
+    if (!selected) return;
     std::vector<base::TableModel::Row> rows;
     for (std::size_t i = 0; i < m_rows.RowCount(); ++i) {
         if (i != *selected) rows.push_back(m_rows.RowAt(i));

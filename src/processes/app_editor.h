@@ -19,7 +19,6 @@ public:
     AppEditor(AppListFile& file, AppDictionary& allowed, platform::IInputBox& input);
 
     base::TableModel& Rows() { return m_rows; }
-    double MaxSize() const { return m_maxSize; }
 
     // cmdAdd: asks for a name and appends a row unless the answer is empty.
     void Add();
@@ -33,7 +32,6 @@ private:
     AppListFile& m_file;
     AppDictionary& m_allowed;
     platform::IInputBox& m_input;
-    double m_maxSize;
     base::TableModel m_rows;
 };
 

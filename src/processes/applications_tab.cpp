@@ -11,7 +11,7 @@ namespace {
 
 using mainwindow::ListId;
 constexpr std::size_t kPathColumn = 4;
-constexpr const char* kCountLabel = "プロセス : ";
+constexpr int kApplicationsTab = 3;
 
 const char* PrivilegeStepText(platform::PrivilegeStep step) {
     switch (step) {
@@ -38,7 +38,9 @@ bool ApplicationsTab::TimerRefresh() {
     return Refresh();
 }
 
-void ApplicationsTab::ShowEntryCount() { m_window.SetPanelText(5, kCountLabel + std::to_string(m_entryCount)); }
+void ApplicationsTab::ShowEntryCount() {
+    m_window.SetPanelText(5, mainwindow::Tab(kApplicationsTab).countLabel + std::to_string(m_entryCount));
+}
 
 bool ApplicationsTab::Refresh() {
     // The walk pumps messages; a timer that fires meanwhile waits for the next round.
@@ -55,16 +57,15 @@ bool ApplicationsTab::Refresh() {
             m_privilege = true;
         }
         if (m_finder.BuildPortOwnerTable(table)) {
-            m_entryCount = table.EntryCount();
             // The same number of pairs keeps the rows, even when owners or ports changed.
-            if (m_entryCount != m_previousCount) {
-                m_previousCount = m_entryCount;
+            if (table.EntryCount() != m_entryCount) {
+                m_entryCount = table.EntryCount();
                 const auto entries = BuildPortEntries(table, m_services.native, m_services.dialogs);
                 ListViewUpDate(*entries);
                 RenewIcons();
             }
         }
-        ShowCount();
+        m_window.ShowCountOf(kApplicationsTab);
         m_window.AutomaticLog(logs::LogKind::Application);
         if (m_program.settings.app == 1) CheckAllowedApplications();
     });
@@ -101,7 +102,7 @@ void ApplicationsTab::RenewIcons() {
     base::TableModel& list = m_window.List(ListId::lstvProcess);
     // This tab's icon routines have no messages of their own.
     mainwindow::LoadRowIcons(m_services.icons, list, kPathColumn, m_services.dialogs, {nullptr, nullptr});
-    mainwindow::AssignRowIcons(list);
+    list.ShowIconPerRow();  // every row shows the image with its own index
 }
 
 void ApplicationsTab::CheckAllowedApplications() {
@@ -110,10 +111,6 @@ void ApplicationsTab::CheckAllowedApplications() {
         // At most eight alerts a refresh.
         if (base::Val(m_allowed.CheckDictionary2(list.Cell(row, 0))) > 7) break;
     }
-}
-
-void ApplicationsTab::ShowCount() {
-    m_window.SetPanelText(5, kCountLabel + std::to_string(m_window.List(ListId::lstvProcess).RowCount()));
 }
 
 }  // namespace processes

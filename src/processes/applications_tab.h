@@ -43,7 +43,6 @@ private:
     void ListViewUpDate(const PortEntries& entries);
     void RenewIcons();
     void CheckAllowedApplications();
-    void ShowCount();
 
     mainwindow::MainWindowModel& m_window;
     const app::Program& m_program;
@@ -52,7 +51,6 @@ private:
     PortOwnerFinder m_finder;
     bool m_privilege = false;
     int m_entryCount = 0;
-    int m_previousCount = 0;
     bool m_refreshing = false;
 };
 

@@ -21,10 +21,9 @@ ProcessCommands::ProcessCommands(mainwindow::MainWindowModel& window, platform::
 }
 
 std::optional<ProcessCommands::Selection> ProcessCommands::Selected() const {
-    using mainwindow::ListId;
     const int tab = m_window.SelectedTab();
     if (tab != 2 && tab != 3) return std::nullopt;
-    const base::TableModel& list = m_window.List(tab == 2 ? ListId::lstvTask : ListId::lstvProcess);
+    const base::TableModel& list = m_window.List(mainwindow::Tab(tab).list);
     const std::optional<std::size_t> row = list.SelectedRow();
     if (!row) return std::nullopt;
     return Selection{list, *row, tab == 2 ? std::size_t{3} : std::size_t{4}};

@@ -68,8 +68,8 @@ bool ProcessListPage::Refresh() {
         FillEntries(ids, *entries);
         UpdateList(*entries, static_cast<int>(ids.size()));
         mainwindow::LoadRowIcons(m_icons, m_list, kPathColumn, m_dialogs, kIconErrors);
-        mainwindow::AssignRowIcons(m_list);
-        m_window.SetPanelText(5, mainwindow::Tab(kProcessTab).countLabel + std::to_string(m_list.RowCount()));
+        m_list.ShowIconPerRow();  // every row shows the image with its own index
+        m_window.ShowCountOf(kProcessTab);
         m_window.AutomaticLog(logs::LogKind::Process);
     });
     return true;

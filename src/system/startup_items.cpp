@@ -11,6 +11,13 @@ namespace {
 
 using platform::RegistryHive;
 
+struct StartupLocation {
+    platform::RegistryHive hive;
+    const char* path;
+    const char* label;
+};
+
+// User_Run, User_RunServices, Machine_Run, Machine_RunServices, in this order.
 constexpr StartupLocation kLocations[] = {
     {RegistryHive::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Run", "User_Run"},
     {RegistryHive::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\RunServices", "User_RunServices"},
@@ -29,8 +36,6 @@ bool EndsExecutableName(const std::string& text, std::size_t at) {
 }
 
 }  // namespace
-
-std::span<const StartupLocation> StartupLocations() { return kLocations; }
 
 std::string ProgramPathOf(const std::string& commandLine) {
     std::string text = commandLine;

@@ -2,7 +2,6 @@
 // The "スタートアップ" tab: the values of the Run and RunServices keys of the user and of the
 // machine, one row each (name, command line, where it was found) with its program's icon.
 #include <functional>
-#include <span>
 #include <string>
 
 #include "base/table_model.h"
@@ -11,15 +10,6 @@
 #include "system/registry_reader.h"
 
 namespace system_items {
-
-struct StartupLocation {
-    platform::RegistryHive hive;
-    const char* path;
-    const char* label;
-};
-
-// User_Run, User_RunServices, Machine_Run, Machine_RunServices, in this order.
-std::span<const StartupLocation> StartupLocations();
 
 // The program a command line starts, for its icon. The double quotes go first, so they can no
 // longer tell where the path ends; the path then runs to the first ".exe" (any case) that ends

@@ -7,15 +7,20 @@ namespace system_items {
 
 namespace msgbox = platform::msgbox;
 
+namespace {
+
+// The shortcut's file name: the executable's current name (without ".exe") + ".exe.lnk". The
+// double extension has always been there; kept so an existing shortcut is found and replaced.
 std::string ShortcutName(const std::string& executableName) { return executableName + ".exe.lnk"; }
 
-bool RegisterAtStartup(platform::IStartupFolder& startup, const Executable& executable) {
+}  // namespace
+
+void RegisterAtStartup(platform::IStartupFolder& startup, const Executable& executable) {
     const auto folder = startup.Path();
     if (!folder || !startup.SaveShortcut(*folder + "\\" + ShortcutName(executable.name),
                                          executable.folder + "\\" + executable.name + ".exe")) {
         throw base::RuntimeError(base::RuntimeErrorNumber::PathFileAccess);
     }
-    return true;
 }
 
 void mnuSUpTouroku_Click(platform::IDialogs& dialogs, platform::IStartupFolder& startup, const Executable& executable) {
@@ -25,9 +30,8 @@ void mnuSUpTouroku_Click(platform::IDialogs& dialogs, platform::IStartupFolder& 
     }
     // Success, too, has always come with the exclamation icon. The registration raises rather than
     // answers false, so its failure message "スタートアップの登録に失敗しました。" is never reached.
-    if (RegisterAtStartup(startup, executable)) {
-        dialogs.ShowMessage("スタートアップの登録に成功しました。", base::kProductName, msgbox::kExclamation);
-    }
+    RegisterAtStartup(startup, executable);
+    dialogs.ShowMessage("スタートアップの登録に成功しました。", base::kProductName, msgbox::kExclamation);
 }
 
 }  // namespace system_items

@@ -8,20 +8,16 @@
 
 namespace system_items {
 
-// The shortcut's file name: the executable's current name (without ".exe") + ".exe.lnk". The
-// double extension has always been there; kept so an existing shortcut is found and replaced.
-std::string ShortcutName(const std::string& executableName);
-
 // This executable: its folder (no trailing "\") and its name without ".exe".
 struct Executable {
     std::string folder;
     std::string name;
 };
 
-// Saves or replaces the shortcut; true when it got to the end. Nothing traps a failure: a Startup
+// Saves or replaces the shortcut. Nothing traps a failure: a Startup
 // folder the shell cannot name or a shortcut that cannot be saved raises the runtime's path/file
 // access error, which ends in the runtime's error report as it always has.
-bool RegisterAtStartup(platform::IStartupFolder& startup, const Executable& executable);
+void RegisterAtStartup(platform::IStartupFolder& startup, const Executable& executable);
 
 // The menu item: asks first, registers on Yes and says so.
 void mnuSUpTouroku_Click(platform::IDialogs& dialogs, platform::IStartupFolder& startup, const Executable& executable);

@@ -45,14 +45,9 @@ void FrmOption::ShowModal(HWND owner) {
     m_model.Load();
     RegisterWindowClass(kClassName);
     // No WS_CLIPCHILDREN: group boxes are transparent and rely on the dialog painting under them.
-    const DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU;
-    RECT frame{0, 0, S(kWidth), S(kHeight)};
-    AdjustWindowRectEx(&frame, style, FALSE, WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT);
-    const int width = frame.right - frame.left;
-    const int height = frame.bottom - frame.top;
-    const POINT at = base::CentredPosition(owner, width, height);
-    CreateWindowFor(WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT, kClassName, L"全般的な設定", style, at.x, at.y, width, height,
-                    owner);
+    const RECT frame = base::ModalWindowRect(owner, S(kWidth), S(kHeight));
+    CreateWindowFor(base::kModalExStyle, kClassName, L"全般的な設定", base::kModalStyle, frame.left, frame.top,
+                    frame.right - frame.left, frame.bottom - frame.top, owner);
     CreateControls();
     FillControls();
     ShowPage(0);

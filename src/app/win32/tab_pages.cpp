@@ -37,7 +37,7 @@ TabPages::TabPages(mainwindow::MainWindowModel& model, SharedServices services)
     model.SetMenuHandler(MenuItem::mnuAppEdit, [this] { OpenAppEditor(); });
     model.SetMenuHandler(MenuItem::mnuTouroku, [this, &model] {
         const base::TableModel& list = model.List(ListId::lstvProcess);
-        if (const auto row = list.SelectedRow(); row && *row < list.RowCount()) {
+        if (const auto row = list.SelectedRow()) {
             processes::RegisterApplication(m_allowedApplications, m_services.dialogs, list.Cell(*row, 0));
         }
     });

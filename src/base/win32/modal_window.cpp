@@ -3,7 +3,10 @@
 #include <algorithm>
 
 namespace base {
+namespace {
 
+// The top left corner of a window of this outer size centred over the owner (over the work
+// area when the owner is hidden), kept whole on the work area.
 POINT CentredPosition(HWND owner, int width, int height) {
     RECT workArea{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &workArea, 0);
@@ -15,6 +18,8 @@ POINT CentredPosition(HWND owner, int width, int height) {
                                   std::max<int>(workArea.top, workArea.bottom - height));
     return {x, y};
 }
+
+}  // namespace
 
 RECT ModalWindowRect(HWND owner, int clientWidth, int clientHeight) {
     RECT frame{0, 0, clientWidth, clientHeight};

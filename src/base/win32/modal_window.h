@@ -11,10 +11,6 @@ inline constexpr DWORD kModalExStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT
 // The outer rectangle of a modal window with this client size, centred over the owner.
 RECT ModalWindowRect(HWND owner, int clientWidth, int clientHeight);
 
-// The top left corner of a window of this outer size centred over the owner (over the work
-// area when the owner is hidden), kept whole on the work area.
-POINT CentredPosition(HWND owner, int width, int height);
-
 // Shows the window with its owner disabled and dispatches messages until `closed` is set or
 // the program's message loop is asked to end (the request is passed on). Then enables the
 // owner, destroys the window and gives the owner the foreground back.

@@ -9,6 +9,7 @@
 #include "base/win32/controls.h"
 #include "base/win32/fatal_error.h"
 #include "base/win32/wide.h"
+#include "controls/win32/screen.h"
 #include "mainwindow/list_columns.h"
 #include "mainwindow/toolbar_buttons.h"
 #include "mainwindow/win32/main_menu.h"
@@ -25,12 +26,6 @@ constexpr int kPanelWidths[] = {2500, 2500, 3000, 1500, 1500};
 // The tab lists in the order the form gives them full-row selection.
 constexpr ListId kTabLists[] = {ListId::lstvMain,    ListId::lstvTask,    ListId::lstvProcess,
                                 ListId::lstvStartup, ListId::lstvAddPort, ListId::lstvPc};
-
-base::TwipsPerPixel ScreenTwipsPerPixel() {
-    base::WindowDc screen(nullptr);
-    if (!screen.Get()) return {};
-    return base::TwipsPerPixelForDpi(GetDeviceCaps(screen.Get(), LOGPIXELSX), GetDeviceCaps(screen.Get(), LOGPIXELSY));
-}
 
 void MoveTo(HWND window, const PixelRect& r) { MoveWindow(window, r.x, r.y, r.width, r.height, TRUE); }
 
@@ -61,7 +56,7 @@ bool InListPopup(MenuItem item) {
 }  // namespace
 
 FrmMain::FrmMain(MainWindowModel& model)
-    : m_model(model), m_twipsPerPixel(ScreenTwipsPerPixel()), m_listPopup(CreateListPopupMenu()) {
+    : m_model(model), m_twipsPerPixel(controls::ScreenTwipsPerPixel()), m_listPopup(CreateListPopupMenu()) {
     RegisterWindowClass(kClassName, CS_HREDRAW | CS_VREDRAW, reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1),
                         LoadIconW(base::ModuleInstance(), MAKEINTRESOURCEW(IDI_APPLICATION_ICON)));
     m_menuBar = CreateMainMenuBar();

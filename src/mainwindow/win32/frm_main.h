@@ -57,8 +57,6 @@ public:
 
     // The traffic graphs: 0 received, 1 sent.
     controls::GraphMove& Graph(int index) { return *m_graphs.at(static_cast<std::size_t>(index)); }
-    // The pop-up menu of the lists (the items of "menu"); its commands come back to this window.
-    HMENU ListPopupMenu() const { return m_listPopup.Get(); }
     HWND ListHandle(ListId list) const { return m_lists[ListIndex(list)]->Handle(); }
 
     // Called when Windows asks whether the session may end.

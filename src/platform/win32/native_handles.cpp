@@ -11,6 +11,7 @@
 
 #include "base/win32/unique_resource.h"
 #include "base/win32/wide.h"
+#include "platform/win32/table_buffer.h"
 
 namespace platform::win32 {
 namespace {
@@ -44,15 +45,8 @@ Function Resolve(HMODULE module, const char* name) {
 
 // The owner-PID table of one kind, asked until it fits.
 std::vector<std::uint64_t> OwnerTable(DWORD (*query)(void*, DWORD*)) {
-    DWORD size = 0;
-    std::vector<std::uint64_t> buffer;  // 8-byte units keep the table aligned
-    DWORD result = query(nullptr, &size);
-    while (result == ERROR_INSUFFICIENT_BUFFER) {
-        buffer.assign(size / sizeof(std::uint64_t) + 1, 0);
-        size = static_cast<DWORD>(buffer.size() * sizeof(std::uint64_t));
-        result = query(buffer.data(), &size);
-    }
-    if (result != NO_ERROR) buffer.clear();
+    std::vector<std::uint64_t> buffer;
+    if (ReadTable(buffer, query) != NO_ERROR) buffer.clear();
     return buffer;
 }
 

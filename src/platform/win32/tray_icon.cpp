@@ -45,8 +45,8 @@ void TrayIcon::Show(const std::string& iconPath, const std::string& tip) {
     Shell_NotifyIconW(NIM_MODIFY, &data);
     m_icon = std::move(icon);  // the shell keeps using the icon it was given
     m_shown = true;
-    if (&iconPath != &m_iconPath) m_iconPath = iconPath;
-    if (&tip != &m_tip) m_tip = tip;
+    m_iconPath = iconPath;  // may be the member itself (a re-add); assigning it to itself is safe
+    m_tip = tip;
 }
 
 void TrayIcon::Remove() {

@@ -4,8 +4,8 @@
 
 #include "base/win32/controls.h"
 #include "base/win32/modal_window.h"
-#include "base/win32/unique_resource.h"
 #include "base/win32/wide.h"
+#include "controls/win32/screen.h"
 
 namespace processes {
 namespace {
@@ -20,11 +20,6 @@ constexpr int kHeight = 260;
 constexpr int kButtonLeft = 340;
 
 int S(int pixels) { return base::ScaleForDpi(pixels); }
-
-base::TwipsPerPixel ScreenTwips() {
-    const base::WindowDc screen(nullptr);
-    return base::TwipsPerPixelForDpi(GetDeviceCaps(screen.Get(), LOGPIXELSX), GetDeviceCaps(screen.Get(), LOGPIXELSY));
-}
 
 }  // namespace
 
@@ -41,10 +36,10 @@ void FrmApp::ShowModal(HWND owner) {
 
 void FrmApp::CreateControls() {
     const HWND self = Handle();
-    m_list = std::make_unique<mainwindow::VirtualListView>(self, kListId, m_editor.Rows(), kNameColumn, ScreenTwips(),
+    m_list = std::make_unique<mainwindow::VirtualListView>(self, kListId, m_editor.Rows(), kNameColumn, controls::ScreenTwipsPerPixel(),
                                                            mainwindow::PixelRect{S(10), S(10), S(320), S(240)});
     SetWindowLongPtrW(m_list->Handle(), GWL_STYLE,
-                      GetWindowLongPtrW(m_list->Handle(), GWL_STYLE) | WS_TABSTOP | LVS_SINGLESEL | LVS_SHOWSELALWAYS);
+                      GetWindowLongPtrW(m_list->Handle(), GWL_STYLE) | LVS_SHOWSELALWAYS);
     SendMessageW(m_list->Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT);
     ShowWindow(m_list->Handle(), SW_SHOW);
     const std::array<std::pair<int, const char*>, 5> buttons{{{kAddId, "プログラムの追加(&R)"},
