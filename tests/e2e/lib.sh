@@ -171,8 +171,20 @@ E2E_MANIFEST=${E2E_PROCESS%.*}.exe.MANIFEST
 # ---------------------------------------------------------------------------------------------
 # Driver
 
-# Runs lookout_driver with the arguments, prints its output and returns its exit status.
-drive_status() { wine "$E2E_DRIVER" "$@" 2>"$E2E_WORK/driver.err"; }
+# Runs lookout_driver with the arguments, prints its output and returns its exit status. The driver
+# always gives its reason when it fails, so a failure without one means Wine did not run it (seen
+# once in CI under load): that run is logged and made once more.
+drive_status() {
+    local status attempt
+    for attempt in 1 2; do
+        status=0
+        wine "$E2E_DRIVER" "$@" >"$E2E_WORK/driver.out" 2>"$E2E_WORK/driver.err" || status=$?
+        [[ $status -ne 0 && ! -s $E2E_WORK/driver.err && $attempt -eq 1 ]] || break
+        e2e_log "lookout_driver $1 ended with exit $status and no reason; running it again"
+    done
+    cat "$E2E_WORK/driver.out"
+    return "$status"
+}
 
 # Like drive_status, but the scenario fails with the driver's reason when the driver fails.
 # Capture with out=$(drive ...) (not `local out=$(...)`, which would hide the failure).

@@ -25,7 +25,7 @@ $started"
 traffic_row="^$stamp  送信 : [0-9,]+ KB  受信 : [0-9,]+ KB$"
 for _ in $(seq 1 20); do
     grep -Eq "$traffic_row" <<<"$(rows)" && break
-    drive wait-gone --title "no such window" --timeout 1000 >/dev/null
+    sleep 1
 done
 grep -Eq "$traffic_row" <<<"$(rows)" || fail "loopback traffic should give traffic rows, rows are:
 $(rows)"
@@ -36,19 +36,21 @@ e2e_screenshot monitoring
 
 # The toolbar switches its buttons with monitoring: start is off while monitoring, stop is off once
 # stopped (the driver refuses a disabled button, so each click also proves its button was on); stop
-# writes its row, and start its own.
+# writes its row, and start its own. A click is posted, so its row is waited for.
 button_id() { drive toolbar --title "$E2E_BANNER" | awk -F'\t' -v tip="$1" '$5 == tip { print $2 }'; }
 button_state() { drive toolbar --title "$E2E_BANNER" | awk -F'\t' -v tip="$1" '$5 == tip { print $3 }'; }
+wait_last_row() { # PATTERN WHAT
+    for _ in $(seq 1 20); do
+        grep -Eq "$1" <<<"$(rows | tail -n 1)" && return 0
+        sleep 0.25
+    done
+    fail "$2 should write its row last, rows are:
+$(rows)"
+}
 [[ $(button_state 監視を開始) == *disabled* ]] || fail "the start button is not disabled while monitoring"
 drive toolbar-click "$(button_id 監視を停止)" --title "$E2E_BANNER"
-stopped=$(rows)
-grep -Eq "^$stamp 監視を停止しました。$" <<<"$(tail -n 1 <<<"$stopped")" ||
-    fail "stop should write its row last, rows are:
-$stopped"
+wait_last_row "^$stamp 監視を停止しました。$" stop
 [[ $(button_state 監視を停止) == *disabled* ]] || fail "the stop button is not disabled once stopped"
 
 drive toolbar-click "$(button_id 監視を開始)" --title "$E2E_BANNER"
-restarted=$(rows)
-grep -Eq "^$stamp  監視を開始しました。Windows起動の経過時間 " <<<"$(tail -n 1 <<<"$restarted")" ||
-    fail "start should write its row last, rows are:
-$restarted"
+wait_last_row "^$stamp  監視を開始しました。Windows起動の経過時間 " start
