@@ -6,7 +6,6 @@
 
 #include "base/win32/colour.h"
 #include "base/win32/controls.h"
-#include "base/win32/modal_window.h"
 #include "base/win32/wide.h"
 
 namespace app {
@@ -43,17 +42,13 @@ FrmOption::FrmOption(OptionsModel& model, std::function<void()> onSaved)
 
 void FrmOption::ShowModal(HWND owner) {
     m_model.Load();
-    RegisterWindowClass(kClassName);
     // No WS_CLIPCHILDREN: group boxes are transparent and rely on the dialog painting under them.
-    const RECT frame = base::ModalWindowRect(owner, S(kWidth), S(kHeight));
-    CreateWindowFor(base::kModalExStyle, kClassName, L"全般的な設定", base::kModalStyle, frame.left, frame.top,
-                    frame.right - frame.left, frame.bottom - frame.top, owner);
+    CreateModal(kClassName, L"全般的な設定", S(kWidth), S(kHeight), owner);
     CreateControls();
     FillControls();
     ShowPage(0);
 
-    m_closed = false;
-    base::RunModal(Handle(), owner, m_closed);
+    RunModal(owner);
 }
 
 void FrmOption::CreateControls() {
@@ -195,7 +190,7 @@ void FrmOption::ReadControls() {
 void FrmOption::OnOk() {
     ReadControls();
     m_model.Ok();
-    m_closed = true;
+    Close();
     if (m_onSaved) m_onSaved();
 }
 
@@ -217,7 +212,7 @@ LRESULT FrmOption::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         if (id == IDOK) {
             OnOk();
         } else if (id == IDCANCEL) {
-            m_closed = true;
+            Close();
         } else if ((id == kSwatchId || id == kSwatchId + 1) && HIWORD(wParam) == STN_CLICKED) {
             m_model.ChooseSwatchColour(static_cast<Swatch>(id - kSwatchId));
             InvalidateRect(m_lblColour[static_cast<std::size_t>(id - kSwatchId)], nullptr, TRUE);
@@ -234,7 +229,7 @@ LRESULT FrmOption::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CTLCOLORSTATIC:
         return SwatchColour(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
     case WM_CLOSE:
-        m_closed = true;
+        Close();
         return 0;
     default:
         return base::Window::HandleMessage(message, wParam, lParam);

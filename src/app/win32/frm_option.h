@@ -5,11 +5,11 @@
 
 #include "app/options_model.h"
 #include "base/win32/unique_resource.h"
-#include "base/win32/window.h"
+#include "base/win32/modal_window.h"
 
 namespace app {
 
-class FrmOption : public base::Window {
+class FrmOption : public base::ModalWindow {
 public:
     // onSaved runs after OK has written the files: the main window applies the colours
     // and the interval text.
@@ -31,7 +31,6 @@ private:
 
     OptionsModel& m_model;
     std::function<void()> m_onSaved;
-    bool m_closed = false;
     HWND m_tabSet = nullptr;
     std::array<std::vector<HWND>, 3> m_pages;
     HWND m_interface = nullptr, m_interval = nullptr;

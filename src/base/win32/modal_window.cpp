@@ -5,6 +5,10 @@
 namespace base {
 namespace {
 
+// The frame of the program's modal windows: a caption with a close box, no resizing.
+constexpr DWORD kModalStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU;
+constexpr DWORD kModalExStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
+
 // The top left corner of a window of this outer size centred over the owner (over the work
 // area when the owner is hidden), kept whole on the work area.
 POINT CentredPosition(HWND owner, int width, int height) {
@@ -19,8 +23,7 @@ POINT CentredPosition(HWND owner, int width, int height) {
     return {x, y};
 }
 
-}  // namespace
-
+// The outer rectangle of a modal window with this client size, centred over the owner.
 RECT ModalWindowRect(HWND owner, int clientWidth, int clientHeight) {
     RECT frame{0, 0, clientWidth, clientHeight};
     AdjustWindowRectEx(&frame, kModalStyle, FALSE, kModalExStyle);
@@ -30,11 +33,23 @@ RECT ModalWindowRect(HWND owner, int clientWidth, int clientHeight) {
     return {at.x, at.y, at.x + width, at.y + height};
 }
 
-void RunModal(HWND window, HWND owner, const bool& closed) {
+}  // namespace
+
+void ModalWindow::CreateModal(const wchar_t* className, const std::wstring& caption, int clientWidth,
+                              int clientHeight, HWND owner) {
+    RegisterWindowClass(className);
+    const RECT frame = ModalWindowRect(owner, clientWidth, clientHeight);
+    CreateWindowFor(kModalExStyle, className, caption.c_str(), kModalStyle, frame.left, frame.top,
+                    frame.right - frame.left, frame.bottom - frame.top, owner);
+}
+
+void ModalWindow::RunModal(HWND owner) {
+    const HWND window = Handle();
+    m_closed = false;
     if (owner) EnableWindow(owner, FALSE);
     ShowWindow(window, SW_SHOW);
     MSG message;
-    while (!closed) {
+    while (!m_closed) {
         const BOOL got = GetMessageW(&message, nullptr, 0, 0);
         if (got == 0 || got == -1) {
             PostQuitMessage(got == 0 ? static_cast<int>(message.wParam) : 0);

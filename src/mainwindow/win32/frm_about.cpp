@@ -3,7 +3,6 @@
 #include "base/product.h"
 #include "base/resource_ids.h"
 #include "base/win32/controls.h"
-#include "base/win32/modal_window.h"
 #include "base/win32/wide.h"
 
 namespace mainwindow {
@@ -33,13 +32,9 @@ FrmAbout::FrmAbout(AboutTexts texts, std::function<void()> openWebSite)
     : m_texts(std::move(texts)), m_openWebSite(std::move(openWebSite)) {}
 
 void FrmAbout::ShowModal(HWND owner) {
-    RegisterWindowClass(kClassName);
-    const RECT frame = base::ModalWindowRect(owner, S(kWidth), S(kHeight));
-    CreateWindowFor(base::kModalExStyle, kClassName, base::Widen(m_texts.caption).c_str(), base::kModalStyle,
-                    frame.left, frame.top, frame.right - frame.left, frame.bottom - frame.top, owner);
+    CreateModal(kClassName, base::Widen(m_texts.caption), S(kWidth), S(kHeight), owner);
     CreateControls();
-    m_closed = false;
-    base::RunModal(Handle(), owner, m_closed);
+    RunModal(owner);
 }
 
 void FrmAbout::CreateControls() {
@@ -67,7 +62,7 @@ LRESULT FrmAbout::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             if (LOWORD(wParam) == kLinkId && HIWORD(wParam) == STN_CLICKED) {
                 m_openWebSite();
             } else if (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL) {
-                m_closed = true;
+                Close();
             }
             return 0;
         case WM_CTLCOLORSTATIC:
@@ -83,7 +78,7 @@ LRESULT FrmAbout::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 return TRUE;
             }
             break;
-        case WM_CLOSE: m_closed = true; return 0;
+        case WM_CLOSE: Close(); return 0;
         default: break;
     }
     return base::Window::HandleMessage(message, wParam, lParam);

@@ -6,12 +6,12 @@
 #include <functional>
 
 #include "base/win32/unique_resource.h"
-#include "base/win32/window.h"
+#include "base/win32/modal_window.h"
 #include "mainwindow/about_box.h"
 
 namespace mainwindow {
 
-class FrmAbout : public base::Window {
+class FrmAbout : public base::ModalWindow {
 public:
     FrmAbout(AboutTexts texts, std::function<void()> openWebSite);
 
@@ -24,7 +24,6 @@ private:
 
     AboutTexts m_texts;
     std::function<void()> m_openWebSite;
-    bool m_closed = false;
     HWND m_link = nullptr;
     base::UniqueFont m_linkFont;
 };

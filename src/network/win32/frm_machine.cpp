@@ -1,7 +1,6 @@
 #include "network/win32/frm_machine.h"
 
 #include "base/win32/controls.h"
-#include "base/win32/modal_window.h"
 
 namespace network {
 namespace {
@@ -37,15 +36,11 @@ HWND Group(HWND parent, const char* caption, int y, int height) {
 }  // namespace
 
 void FrmMachine::ShowModal(HWND owner) {
-    RegisterWindowClass(kClassName);
-    const RECT frame = base::ModalWindowRect(owner, S(kWidth), S(kHeight));
-    CreateWindowFor(base::kModalExStyle, kClassName, L"ユーティリティ", base::kModalStyle, frame.left, frame.top,
-                    frame.right - frame.left, frame.bottom - frame.top, owner);
+    CreateModal(kClassName, L"ユーティリティ", S(kWidth), S(kHeight), owner);
     CreateControls();
     m_panel.SetListener([this] { ShowPanel(); });
     ShowPanel();
-    m_closed = false;
-    base::RunModal(Handle(), owner, m_closed);
+    RunModal(owner);
     m_panel.SetListener(nullptr);
 }
 
@@ -84,11 +79,11 @@ LRESULT FrmMachine::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                                            base::WindowText(m_text6));
                     return 0;
                 case kCmdEnd:
-                case IDCANCEL: m_closed = true; return 0;
+                case IDCANCEL: Close(); return 0;
                 default: break;
             }
             break;
-        case WM_CLOSE: m_closed = true; return 0;
+        case WM_CLOSE: Close(); return 0;
         default: break;
     }
     return base::Window::HandleMessage(message, wParam, lParam);

@@ -3,12 +3,12 @@
 // buttons' state as the panel says and hands the three text boxes to the send.
 #include <windows.h>
 
-#include "base/win32/window.h"
+#include "base/win32/modal_window.h"
 #include "network/machine_panel.h"
 
 namespace network {
 
-class FrmMachine : public base::Window {
+class FrmMachine : public base::ModalWindow {
 public:
     explicit FrmMachine(MachinePanel& panel) : m_panel(panel) {}
 
@@ -21,7 +21,6 @@ private:
     void ShowPanel();
 
     MachinePanel& m_panel;
-    bool m_closed = false;
     HWND m_textIP = nullptr;
     HWND m_cmdGET = nullptr;
     HWND m_text5 = nullptr;

@@ -15,13 +15,10 @@ constexpr int kHeight = 130;
 
 int S(int pixels) { return base::ScaleForDpi(pixels); }
 
-class InputWindow final : public base::Window {
+class InputWindow final : public base::ModalWindow {
 public:
     std::string Run(HWND owner, const std::string& prompt, const std::string& title) {
-        RegisterWindowClass(kClassName);
-        const RECT frame = base::ModalWindowRect(owner, S(kWidth), S(kHeight));
-        CreateWindowFor(base::kModalExStyle, kClassName, base::Widen(title).c_str(), base::kModalStyle, frame.left,
-                        frame.top, frame.right - frame.left, frame.bottom - frame.top, owner);
+        CreateModal(kClassName, base::Widen(title), S(kWidth), S(kHeight), owner);
         base::CreateControl(L"STATIC", prompt, WS_VISIBLE | SS_LEFT, S(10), S(10), S(250), S(60), Handle(), 0);
         base::CreateControl(L"BUTTON", "OK", WS_VISIBLE | WS_TABSTOP | BS_DEFPUSHBUTTON, S(270), S(10), S(80), S(26),
                             Handle(), IDOK);
@@ -30,7 +27,7 @@ public:
         m_edit = base::CreateControl(L"EDIT", "", WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL, S(10), S(94), S(340),
                                      S(24), Handle(), kEditId, WS_EX_CLIENTEDGE);
         SetFocus(m_edit);
-        base::RunModal(Handle(), owner, m_closed);
+        RunModal(owner);
         return m_answer;
     }
 
@@ -38,18 +35,17 @@ private:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (message == WM_COMMAND && (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL)) {
             if (LOWORD(wParam) == IDOK) m_answer = base::WindowText(m_edit);
-            m_closed = true;
+            Close();
             return 0;
         }
         if (message == WM_CLOSE) {
-            m_closed = true;
+            Close();
             return 0;
         }
         return base::Window::HandleMessage(message, wParam, lParam);
     }
 
     HWND m_edit = nullptr;
-    bool m_closed = false;
     std::string m_answer;
 };
 

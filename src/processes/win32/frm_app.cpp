@@ -3,7 +3,6 @@
 #include <array>
 
 #include "base/win32/controls.h"
-#include "base/win32/modal_window.h"
 #include "base/win32/wide.h"
 #include "controls/win32/screen.h"
 
@@ -24,13 +23,9 @@ int S(int pixels) { return base::ScaleForDpi(pixels); }
 }  // namespace
 
 void FrmApp::ShowModal(HWND owner) {
-    RegisterWindowClass(kClassName);
-    const RECT frame = base::ModalWindowRect(owner, S(kWidth), S(kHeight));
-    CreateWindowFor(base::kModalExStyle, kClassName, base::Widen(AppEditor::kCaption).c_str(), base::kModalStyle,
-                    frame.left, frame.top, frame.right - frame.left, frame.bottom - frame.top, owner);
+    CreateModal(kClassName, base::Widen(AppEditor::kCaption), S(kWidth), S(kHeight), owner);
     CreateControls();
-    m_closed = false;
-    base::RunModal(Handle(), owner, m_closed);
+    RunModal(owner);
     m_list.reset();
 }
 
@@ -66,12 +61,12 @@ LRESULT FrmApp::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 case kAddId: m_editor.Add(); return 0;
                 case kDeleteId: m_editor.Delete(); return 0;
                 case IDOK:
-                    if (m_editor.Ok()) m_closed = true;
+                    if (m_editor.Ok()) Close();
                     return 0;
-                case IDCANCEL: m_closed = true; return 0;
+                case IDCANCEL: Close(); return 0;
                 default: return 0;  // cmdEdit does nothing
             }
-        case WM_CLOSE: m_closed = true; return 0;
+        case WM_CLOSE: Close(); return 0;
         default: break;
     }
     return base::Window::HandleMessage(message, wParam, lParam);

@@ -4,13 +4,13 @@
 
 #include <memory>
 
-#include "base/win32/window.h"
+#include "base/win32/modal_window.h"
 #include "mainwindow/win32/virtual_list_view.h"
 #include "processes/app_editor.h"
 
 namespace processes {
 
-class FrmApp : public base::Window {
+class FrmApp : public base::ModalWindow {
 public:
     explicit FrmApp(AppEditor& editor) : m_editor(editor) {}
 
@@ -22,7 +22,6 @@ private:
     void CreateControls();
 
     AppEditor& m_editor;
-    bool m_closed = false;
     std::unique_ptr<mainwindow::VirtualListView> m_list;  // lstvAppEdit
 };
 
